@@ -1,0 +1,124 @@
+#include "vkd_dbo.h"
+
+#include <vkd_q.h>
+
+#include <cstring>
+
+namespace vkd::dbo {
+
+namespace {
+
+bool countRecords(int index, int key1, int* count)
+{
+    if (count) {
+        *count = vkd_zob_count(index, key1, 1);
+        return *count > 0;
+    }
+    int k1 = key1, k2 = 1;
+    vkd_zob_kenq_ex(index, &k1, &k2, 0);
+    return k1 == key1;
+}
+
+template <size_t N> void copyTitle(char (&target)[N], const QString& title)
+{
+    std::memset(target, 0, N);
+    QByteArray utf8 = title.toUtf8().left(int(N) - 1);
+    std::memcpy(target, utf8.constData(), size_t(utf8.size()));
+}
+
+} // namespace
+
+template <typename Record> std::vector<Record> readAll(int index, int key1, int key2)
+{
+    std::vector<Record> out;
+    Record r;
+    for (int pos = 0;; ++pos) {
+        int length = int(sizeof(Record));
+        if (vkd_zob_get(index, key1, key2, &r, &length, pos) >= ZOB_END)
+            break;
+        if (length == int(sizeof(Record)))
+            out.push_back(r);
+    }
+    return out;
+}
+
+template <typename Record> void writeAll(int index, int key1, const std::vector<Record>& records, int key2)
+{
+    vkd_zob_lock_ex(index, key1, key2);
+    int length = 0;
+    vkd_zob_put(index, key1, key2, nullptr, &length, 0);
+    length = int(sizeof(Record));
+    for (const Record& r : records)
+        vkd_zob_put(index, key1, key2, &r, &length, 1);
+    vkd_zob_free_ex(index, key1, key2);
+}
+
+template std::vector<NodeRecord> readAll<NodeRecord>(int, int, int);
+template std::vector<ElementRecord> readAll<ElementRecord>(int, int, int);
+template std::vector<GroupRecord> readAll<GroupRecord>(int, int, int);
+template std::vector<LoadCaseRecord> readAll<LoadCaseRecord>(int, int, int);
+template void writeAll<NodeRecord>(int, int, const std::vector<NodeRecord>&, int);
+template void writeAll<ElementRecord>(int, int, const std::vector<ElementRecord>&, int);
+template void writeAll<GroupRecord>(int, int, const std::vector<GroupRecord>&, int);
+template void writeAll<LoadCaseRecord>(int, int, const std::vector<LoadCaseRecord>&, int);
+
+int getKindOfSystem(int index, structKindSystem* details)
+{
+    structKindSystem k;
+    int length = int(sizeof(k));
+    if (vkd_zob_get(index, KeyKindOfSystem, 1, &k, &length, 0) >= ZOB_END || length < int(sizeof(int32_t)))
+        k = structKindSystem();
+    if (details)
+        *details = k;
+    return k.kind;
+}
+
+void setKindOfSystem(int index, int kind)
+{
+    structKindSystem k;
+    k.kind = kind;
+    k.dimension = (kind >= 10 && kind <= 19) ? 2 : 3;
+    writeAll<structKindSystem>(index, KeyKindOfSystem, {k});
+}
+template void writeAll<structKindSystem>(int, int, const std::vector<structKindSystem>&, int);
+
+bool hasNodes(int index, int* count) { return countRecords(index, KeyNodes, count); }
+bool hasQuads(int index, int* count) { return countRecords(index, KeyQuads, count); }
+bool hasBoundaries(int index, int* count) { return countRecords(index, KeyBoundaries, count); }
+bool hasBeams(int index, int* count) { return countRecords(index, KeyBeams, count); }
+bool hasTrus(int index, int* count) { return countRecords(index, KeyTrusses, count); }
+bool hasBscts(int index, int* count) { return countRecords(index, KeyBeamSections, count); }
+bool hasPoints(int index, int* count) { return countRecords(index, KeyPoints, count); }
+bool hasLines(int index, int* count) { return countRecords(index, KeyLines, count); }
+bool hasAreas(int index, int* count) { return countRecords(index, KeyAreas, count); }
+bool hasAxes(int index, int* count) { return countRecords(index, KeyAxes, count); }
+bool hasCables(int index, int* count) { return countRecords(index, KeyCables, count); }
+bool hasSprings(int index, int* count) { return countRecords(index, KeySprings, count); }
+bool hasBrics(int index, int* count) { return countRecords(index, KeyBricks, count); }
+bool hasQuadTendons(int index, int* count) { return countRecords(index, KeyQuadTendons, count); }
+bool hasBeamTendons(int index, int* count) { return countRecords(index, KeyBeamTendons, count); }
+bool hasCrossSections(int index, int* count) { return countRecords(index, KeyCrossSections, count); }
+
+QString groupTitle(const GroupRecord& g)
+{
+    return QString::fromUtf8(g.title, int(strnlen(g.title, sizeof g.title)));
+}
+
+GroupRecord makeGroup(int number, const QString& title)
+{
+    GroupRecord g;
+    g.number = number;
+    copyTitle(g.title, title);
+    return g;
+}
+
+LoadCaseRecord makeLoadCase(int number, int kind, const QString& title)
+{
+    LoadCaseRecord l;
+    l.number = number;
+    l.kind = kind;
+    copyTitle(l.title, title);
+    return l;
+}
+
+} // namespace vkd::dbo

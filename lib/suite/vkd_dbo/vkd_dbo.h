@@ -1,0 +1,108 @@
+#pragma once
+// vkd_dbo: questions about the structural model stored in a project. The model lives in the
+// record store of the project under the key pairs below (described in docs/store.md).
+
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+namespace vkd::dbo {
+
+// Key pairs of the model. key2 is 1 unless said otherwise.
+enum ModelKey : int {
+    KeyKindOfSystem = 1,
+    KeyNodes = 10,
+    KeyQuads = 20,
+    KeyBoundaries = 21,
+    KeyBeams = 22,
+    KeyTrusses = 23,
+    KeyCables = 24,
+    KeySprings = 25,
+    KeyBricks = 26,
+    KeyPoints = 30,
+    KeyLines = 31,
+    KeyAreas = 32,
+    KeyAxes = 33,
+    KeyDesignLines = 35, // key2 is the number of the design line
+    KeyQuadTendons = 40,
+    KeyBeamTendons = 41,
+    KeyBeamSections = 42,
+    KeyCrossSections = 50,
+    KeyGroups = 60,
+    KeySecondaryGroups = 61,
+    KeyLoadCases = 70,
+    KeyCamera = 80,
+};
+
+#pragma pack(push, 4)
+struct structKindSystem
+{
+    int32_t kind = 0;
+    int32_t dimension = 3; // 2 for plane systems, 3 for spatial ones
+};
+
+struct NodeRecord
+{
+    int32_t number;
+    float x, y, z;
+};
+
+// Quads, beams, trusses, cables, springs: element number, group and up to four nodes.
+struct ElementRecord
+{
+    int32_t number;
+    int32_t group;
+    int32_t nodes[4];
+};
+
+struct GroupRecord
+{
+    int32_t number; // primary groups 0..999999; secondary groups 1000000 + packed name
+    char title[32]; // UTF-8, zero-terminated
+};
+
+struct LoadCaseRecord
+{
+    int32_t number;
+    int32_t kind; // 0 permanent, 1 variable, 2 accidental, 3 seismic, 4 design combination
+    char title[40];
+};
+#pragma pack(pop)
+
+static_assert(sizeof(structKindSystem) == 8);
+static_assert(sizeof(NodeRecord) == 16);
+static_assert(sizeof(ElementRecord) == 24);
+static_assert(sizeof(GroupRecord) == 36);
+static_assert(sizeof(LoadCaseRecord) == 48);
+
+// The kind of the structural system (see docs/store.md); 0 when the project stores none.
+int getKindOfSystem(int index, structKindSystem* details);
+void setKindOfSystem(int index, int kind);
+
+bool hasNodes(int index, int* count);
+bool hasQuads(int index, int* count);
+bool hasBoundaries(int index, int* count);
+bool hasBeams(int index, int* count);
+bool hasTrus(int index, int* count);
+bool hasBscts(int index, int* count);
+bool hasPoints(int index, int* count);
+bool hasLines(int index, int* count);
+bool hasAreas(int index, int* count);
+bool hasAxes(int index, int* count);
+bool hasCables(int index, int* count);
+bool hasSprings(int index, int* count);
+bool hasBrics(int index, int* count);
+bool hasQuadTendons(int index, int* count);
+bool hasBeamTendons(int index, int* count);
+bool hasCrossSections(int index, int* count);
+
+// All records of a key pair as plain structs; records of another size are skipped.
+template <typename Record> std::vector<Record> readAll(int index, int key1, int key2 = 1);
+// Replaces the records of a key pair.
+template <typename Record> void writeAll(int index, int key1, const std::vector<Record>& records, int key2 = 1);
+
+QString groupTitle(const GroupRecord& g);
+GroupRecord makeGroup(int number, const QString& title);
+LoadCaseRecord makeLoadCase(int number, int kind, const QString& title);
+
+} // namespace vkd::dbo

@@ -1,0 +1,21 @@
+// Loads libvkd_p_fea.so as a host does and runs its self-check with the given arguments.
+// Prints the language before and after and a text translated by the library's translator.
+#include <VKD_P_Frame.h>
+#include <vkd_q.h>
+
+#include <QGuiApplication>
+#include <cstdio>
+
+int main(int argc, char** argv)
+{
+    QGuiApplication app(argc, argv);
+    QStringList args = app.arguments().mid(1);
+    if (!args.isEmpty() && args.first().startsWith(QLatin1String("language="))) {
+        vkd_lib_setvalue(102, args.takeFirst().mid(9).toInt());
+    }
+    const int before = vkd_lib_getvalue(102);
+    const int result = vkd_unittests(args);
+    std::printf("result %d\nlanguage %d %d\ntext %s\n", result, before, vkd_lib_getvalue(102),
+                qUtf8Printable(QCoreApplication::translate("VKD_P_Mix_UnitTest", "Self-check of the library")));
+    return result;
+}

@@ -1,0 +1,71 @@
+// plib-project: creates a demo project and shows what a project holds.
+//   plib-project create <file>               a new project with the demo model
+//   plib-project dump <file> <key1> <key2>   the records of a key pair, word by word
+//   plib-project model <file>                what the model holds
+#include "demomodel.h"
+#include "dump.h"
+
+#include <VKD_H_ZOBDoc.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTextStream>
+
+namespace {
+
+int usage(QTextStream& err)
+{
+    err << "usage: plib-project create <file>\n"
+           "       plib-project dump <file> <key1> <key2>\n"
+           "       plib-project model <file>\n";
+    return 2;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    const QStringList args = app.arguments().mid(1);
+    if (args.size() < 2)
+        return usage(err);
+    const QString command = args.at(0);
+    const QString path = args.at(1);
+
+    if (command == QLatin1String("create")) {
+        if (QFile::exists(path)) {
+            err << "plib-project: " << path << " exists already; it is not overwritten.\n";
+            return 1;
+        }
+        VKD_H_ZOBDoc doc(path, VKD_H_ZOBDoc::OpenOrCreate);
+        if (!doc.isValid()) {
+            err << "plib-project: " << doc.errorString() << '\n';
+            return 1;
+        }
+        writeDemoModel(doc.index());
+        out << "created " << path << '\n';
+        return 0;
+    }
+
+    VKD_H_ZOBDoc doc(path, VKD_H_ZOBDoc::OpenExisting);
+    if (!doc.isValid()) {
+        err << "plib-project: " << doc.errorString() << '\n';
+        return 1;
+    }
+    if (command == QLatin1String("dump") && args.size() == 4) {
+        bool ok1 = false, ok2 = false;
+        const int key1 = args.at(2).toInt(&ok1);
+        const int key2 = args.at(3).toInt(&ok2);
+        if (!ok1 || !ok2)
+            return usage(err);
+        out << dumpKeyPair(doc.index(), key1, key2);
+        return 0;
+    }
+    if (command == QLatin1String("model")) {
+        out << describeModel(doc.index());
+        return 0;
+    }
+    return usage(err);
+}
