@@ -1,0 +1,32 @@
+#include "VKD_QT_Menu.h"
+
+VKD_QT_Action::VKD_QT_Action(const QString& text, QObject* parent)
+    : QAction(text, parent)
+{
+    setObjectName(text);
+}
+
+VKD_QT_Action::VKD_QT_Action(const QIcon& icon, const QString& text, QObject* parent)
+    : QAction(icon, text, parent)
+{
+    setObjectName(text);
+}
+
+VKD_QT_Menu::VKD_QT_Menu(QWidget* parent)
+    : QMenu(parent)
+{
+}
+
+VKD_QT_Menu::VKD_QT_Menu(const QString& title, QWidget* parent)
+    : QMenu(title, parent)
+{
+}
+
+VKD_QT_Action* VKD_QT_Menu::addAction(const QString& text, const QObject* receiver, const char* member)
+{
+    auto* action = new VKD_QT_Action(text, this);
+    if (receiver && member)
+        connect(action, SIGNAL(triggered()), receiver, member);
+    QMenu::addAction(action);
+    return action;
+}
