@@ -12,9 +12,24 @@ VKD_QT_Action::VKD_QT_Action(const QIcon& icon, const QString& text, QObject* pa
     setObjectName(text);
 }
 
+VKD_QT_Action::VKD_QT_Action(const QIcon& icon, const QString& text, const QKeySequence& shortcut,
+                             QObject* parent, const char* name)
+    : QAction(icon, text, parent)
+{
+    setShortcut(shortcut);
+    setObjectName(name ? QString::fromLatin1(name) : text);
+}
+
 VKD_QT_Menu::VKD_QT_Menu(QWidget* parent)
     : QMenu(parent)
 {
+}
+
+VKD_QT_Menu::VKD_QT_Menu(QWidget* parent, const char* name)
+    : QMenu(parent)
+{
+    if (name)
+        setObjectName(QString::fromLatin1(name));
 }
 
 VKD_QT_Menu::VKD_QT_Menu(const QString& title, QWidget* parent)

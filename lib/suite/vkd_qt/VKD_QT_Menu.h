@@ -11,6 +11,8 @@ class VKD_QT_Action : public QAction
 public:
     VKD_QT_Action(const QString& text, QObject* parent);
     VKD_QT_Action(const QIcon& icon, const QString& text, QObject* parent);
+    VKD_QT_Action(const QIcon& icon, const QString& text, const QKeySequence& shortcut, QObject* parent,
+                  const char* name = nullptr);
 };
 
 class VKD_QT_Menu : public QMenu
@@ -18,6 +20,7 @@ class VKD_QT_Menu : public QMenu
     Q_OBJECT
 public:
     explicit VKD_QT_Menu(QWidget* parent = nullptr);
+    VKD_QT_Menu(QWidget* parent, const char* name);
     VKD_QT_Menu(const QString& title, QWidget* parent = nullptr);
     // Adds an action of the given text, connected to a slot of the receiver.
     VKD_QT_Action* addAction(const QString& text, const QObject* receiver = nullptr, const char* member = nullptr);
