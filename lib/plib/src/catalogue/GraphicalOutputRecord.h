@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+// One line of the catalogue graphicaloutput.data. Every tree item holds its own copy.
+struct GraphicalOutputRecord
+{
+    // Values of VKD_P_WidgetGraphicalOutput_Progname for which the plot is offered.
+    int prog1 = 0;
+    int prog2 = 0;
+    int prog3 = 0;
+    // Resolved captions of the three levels of the tree.
+    QString title1;
+    QString title2;
+    QString title3;
+    // Model content that the plot needs; an unknown text sets no condition.
+    QString contentTag;
+    // Identifiers of the three captions, seven characters each. They don't depend on the
+    // language, so that a stored choice survives a change of language.
+    QString id1;
+    QString id2;
+    QString id3;
+    int number7 = 0;
+    // Binding to load cases as written in the file, and what it means.
+    QString caseWord;
+    int ctrl = 0;
+    int rowClass = 0;
+    // The isLC value that load case rows of this plot carry.
+    int rowMark = 0;
+    int preselect = 0;
+    int viewKind = 0;
+    int systemMask = 0;
+    QString text11;
+    QString scriptGerman;
+    QString scriptEnglish;
+};

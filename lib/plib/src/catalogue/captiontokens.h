@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace vkd::plib::widgetgraphicaloutput {
+
+// A caption field that names its caption by a token: four characters or more beginning with
+// "@", "&", "^" or "$", or seven or more with "&", "^" or "$" in the fourth place, behind three
+// qualifier characters.
+bool isKeyText(QStringView text);
+
+// Adds the text of a token ("&", "^" or "$" and a three-character key) and a suffix to out,
+// behind it or, with before, in front of it. Returns false if token is no such token.
+bool expand(const QString& token, const QString& suffix, QString& out, bool before);
+
+// The caption that a key text stands for in the language of the desktop, untrimmed, or a null
+// string for the "@" form, whose caption is literal.
+QString captionText(const QString& field);
+
+} // namespace vkd::plib::widgetgraphicaloutput
