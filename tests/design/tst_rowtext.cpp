@@ -4,6 +4,7 @@
 #include <designrecord.h>
 #include <rowtext.h>
 
+#include <QTranslator>
 #include <QtTest>
 
 #include <cmath>
@@ -57,6 +58,7 @@ private slots:
     void summaryDetails();
     void valueText_data();
     void valueText();
+    void germanTexts();
 
 private:
     VKD_A_BarDiameterData m_bars;
@@ -218,6 +220,21 @@ void TestRowText::valueText()
     if (!withBars)
         r.barData = nullptr;
     QCOMPARE(vkd::plib::design::valueText(r, value, code, unit), text);
+}
+
+void TestRowText::germanTexts()
+{
+    QTranslator german;
+    QVERIFY(german.load(QCoreApplication::applicationDirPath() + QStringLiteral("/data/vkd_p_dll_de.qm")));
+    QCoreApplication::installTranslator(&german);
+    tagZOB_QUAD_RIM r = getDefaultMerPara(true);
+    const QString none = rowText(row(r), ColumnSelection);
+    const QString remaining = rowText(row(r, {-1}), ColumnSelection);
+    const QString type = rowText(row(r, {-1}), ColumnType);
+    QCoreApplication::removeTranslator(&german);
+    QCOMPARE(none, QStringLiteral("Keine"));
+    QCOMPARE(remaining, QStringLiteral("Restliche Gruppen"));
+    QCOMPARE(type, QStringLiteral("Zwei Lagen (orthogonal)"));
 }
 
 QTEST_GUILESS_MAIN(TestRowText)

@@ -2,7 +2,9 @@
 //   plib-project create <file>               a new project with the demo model
 //   plib-project dump <file> <key1> <key2>   the records of a key pair, word by word
 //   plib-project model <file>                what the model holds
+//   plib-project design <file>               the design parameter records, field by field
 #include "demomodel.h"
+#include "design.h"
 #include "dump.h"
 
 #include <VKD_H_ZOBDoc.h>
@@ -17,7 +19,8 @@ int usage(QTextStream& err)
 {
     err << "usage: plib-project create <file>\n"
            "       plib-project dump <file> <key1> <key2>\n"
-           "       plib-project model <file>\n";
+           "       plib-project model <file>\n"
+           "       plib-project design <file>\n";
     return 2;
 }
 
@@ -45,6 +48,7 @@ int main(int argc, char** argv)
             return 1;
         }
         writeDemoModel(doc.index());
+        writeDemoDesign(doc);
         out << "created " << path << '\n';
         return 0;
     }
@@ -61,6 +65,10 @@ int main(int argc, char** argv)
         if (!ok1 || !ok2)
             return usage(err);
         out << dumpKeyPair(doc.index(), key1, key2);
+        return 0;
+    }
+    if (command == QLatin1String("design")) {
+        out << dumpDesignRecords(doc.index());
         return 0;
     }
     if (command == QLatin1String("model")) {
