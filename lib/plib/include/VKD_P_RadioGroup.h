@@ -24,7 +24,8 @@ class VKD_P_EXPORT VKD_P_RadioGroup : public QObject
     Q_OBJECT
 public:
     // -1 is no button, as getSelectedId gives it while nothing is checked.
-    enum ButtonID : int {
+    enum ButtonID : int
+    {
         NoTextOutput = 0,
         Manually = 1,
         All = 2,

@@ -12,9 +12,7 @@ QtTableView::QtTableView(QWidget* parent)
 void QtTableView::set_read_only(bool readOnly)
 {
     m_readOnly = readOnly;
-    // Persistent editors are the host's own widgets in cells and stay.
-    if (!m_readOnly || state() != EditingState || !m_editedIndex.isValid() ||
-        isPersistentEditorOpen(m_editedIndex))
+    if (!m_readOnly || !m_editedIndex.isValid())
         return;
     if (QWidget* editor = indexWidget(m_editedIndex))
         closeEditor(editor, QAbstractItemDelegate::NoHint);
@@ -26,10 +24,27 @@ bool QtTableView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* ev
 {
     if (m_readOnly)
         return false;
+    // A persistent editor that is already there only gets the focus.
+    const bool hadEditor = indexWidget(index) != nullptr;
     const bool opened = QTableView::edit(index, trigger, event);
-    if (opened && state() == EditingState)
+    if (opened && !hadEditor && indexWidget(index))
         m_editedIndex = index;
     return opened;
+}
+
+// The one road from an editor into the model; persistent editors take it too.
+void QtTableView::commitData(QWidget* editor)
+{
+    if (m_readOnly)
+        return;
+    QTableView::commitData(editor);
+}
+
+void QtTableView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    if (m_editedIndex.isValid() && indexWidget(m_editedIndex) == editor)
+        m_editedIndex = QPersistentModelIndex();
+    QTableView::closeEditor(editor, hint);
 }
 
 // A drop writes into the model, so it is an edit too.

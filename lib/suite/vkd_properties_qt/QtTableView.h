@@ -15,8 +15,14 @@ public:
     explicit QtTableView(QWidget* parent = nullptr);
 
     // Switching on closes the editor the user is working in without writing its value back.
+    // Persistent editors, which the host placed in cells, stay open but write nothing.
     void set_read_only(bool readOnly);
     bool is_read_only() const { return m_readOnly; }
+    using QTableView::edit;
+
+protected slots:
+    void commitData(QWidget* editor) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 protected:
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
@@ -26,7 +32,8 @@ protected:
 
 private:
     bool m_readOnly = false;
-    // The cell whose editor was opened last; Qt offers no way to ask for the open editor.
+    // The cell of the editor that edit() opened and that is still open. Qt tells neither which
+    // editor is the user's nor, for a cell, whether its editor is persistent.
     QPersistentModelIndex m_editedIndex;
 };
 

@@ -16,8 +16,10 @@ void VKD_P_RadioGroup::init(QWidget* parent)
         return;
     VKD_P_RadioGroupImpl* impl = m_impl.get();
     connect(impl, &VKD_P_RadioGroupImpl::buttonClicked, this, &VKD_P_RadioGroup::buttonClicked);
-    connect(impl, &VKD_P_RadioGroupImpl::buttonNoOutputChecked, this, &VKD_P_RadioGroup::buttonNoOutputChecked);
-    connect(impl, &VKD_P_RadioGroupImpl::buttonManuallyChecked, this, &VKD_P_RadioGroup::buttonManuallyChecked);
+    connect(impl, &VKD_P_RadioGroupImpl::buttonNoOutputChecked, this,
+            &VKD_P_RadioGroup::buttonNoOutputChecked);
+    connect(impl, &VKD_P_RadioGroupImpl::buttonManuallyChecked, this,
+            &VKD_P_RadioGroup::buttonManuallyChecked);
     connect(impl, &VKD_P_RadioGroupImpl::buttonAllChecked, this, &VKD_P_RadioGroup::buttonAllChecked);
 }
 
@@ -27,7 +29,8 @@ void VKD_P_RadioGroup::initForLF(QWidget* parent, const std::list<ButtonID>& ids
         return;
     VKD_P_RadioGroupImpl* impl = m_impl.get();
     connect(impl, &VKD_P_RadioGroupImpl::buttonClicked, this, &VKD_P_RadioGroup::buttonClicked);
-    connect(impl, &VKD_P_RadioGroupImpl::buttonManuallyChecked, this, &VKD_P_RadioGroup::buttonManuallyChecked);
+    connect(impl, &VKD_P_RadioGroupImpl::buttonManuallyChecked, this,
+            &VKD_P_RadioGroup::buttonManuallyChecked);
     connect(impl, &VKD_P_RadioGroupImpl::buttonAllChecked, this, &VKD_P_RadioGroup::buttonAllChecked);
     connect(impl, &VKD_P_RadioGroupImpl::buttonAllAcciChecked, this, &VKD_P_RadioGroup::buttonAllAcciChecked);
     connect(impl, &VKD_P_RadioGroupImpl::buttonAllFireChecked, this, &VKD_P_RadioGroup::buttonAllFireChecked);

@@ -8,17 +8,18 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
 // writeXML names the first checked button in this order; readXML looks in it too.
 constexpr int persistentOrder[] = {2, 3, 4, 5, 1, 0, 6, 7, 8, 9};
-// useWidget connects the buttons in this order, which is the order their slots run in when
-// one click toggles two buttons.
+// The group takes the buttons, and useWidget connects them, in the order of the fields.
 constexpr int wiringOrder[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 0};
 
-const char* const persistentNames[] = {"m_NoTextOutput", "m_Manually", "m_All",      "m_All_A",    "m_All_F",
-                                       "m_All_E",        "m_All_RARE", "m_All_FREQ", "m_All_PERM", "m_All_NONF"};
+const char* const persistentNames[] = {"m_NoTextOutput", "m_Manually", "m_All",      "m_All_A",
+                                       "m_All_F",        "m_All_E",    "m_All_RARE", "m_All_FREQ",
+                                       "m_All_PERM",     "m_All_NONF"};
 
 QString persistentName(int id)
 {
@@ -28,10 +29,11 @@ QString persistentName(int id)
 } // namespace
 
 QRadioButton* VKD_P_RadioGroupImpl::*const VKD_P_RadioGroupImpl::s_fields[10] = {
-    &VKD_P_RadioGroupImpl::m_NoTextOutput, &VKD_P_RadioGroupImpl::m_Manually,  &VKD_P_RadioGroupImpl::m_All,
-    &VKD_P_RadioGroupImpl::m_All_A,        &VKD_P_RadioGroupImpl::m_All_F,     &VKD_P_RadioGroupImpl::m_All_E,
-    &VKD_P_RadioGroupImpl::m_All_RARE,     &VKD_P_RadioGroupImpl::m_All_FREQ,  &VKD_P_RadioGroupImpl::m_All_PERM,
-    &VKD_P_RadioGroupImpl::m_All_NONF};
+    &VKD_P_RadioGroupImpl::m_NoTextOutput, &VKD_P_RadioGroupImpl::m_Manually,
+    &VKD_P_RadioGroupImpl::m_All,          &VKD_P_RadioGroupImpl::m_All_A,
+    &VKD_P_RadioGroupImpl::m_All_F,        &VKD_P_RadioGroupImpl::m_All_E,
+    &VKD_P_RadioGroupImpl::m_All_RARE,     &VKD_P_RadioGroupImpl::m_All_FREQ,
+    &VKD_P_RadioGroupImpl::m_All_PERM,     &VKD_P_RadioGroupImpl::m_All_NONF};
 
 VKD_P_RadioGroupImpl::VKD_P_RadioGroupImpl() = default;
 
@@ -153,17 +155,17 @@ void VKD_P_RadioGroupImpl::buttonXXClicked(bool on)
 {
     if (!on)
         return;
-    const QObject* source = sender();
     int id = -1;
     for (int candidate = 0; candidate < int(std::size(s_fields)); ++candidate) {
-        if (source && source == button(candidate))
+        if (sender() && sender() == button(candidate))
             id = candidate;
     }
     switch (id) {
+    case -1:
+        return;
     case VKD_P_RadioGroup::NoTextOutput:
         emit buttonNoOutputChecked();
         return; // buttonChecked reports the ids 1 to 9 only
-
     case VKD_P_RadioGroup::Manually:
         emit buttonManuallyChecked();
         break;
@@ -179,8 +181,6 @@ void VKD_P_RadioGroupImpl::buttonXXClicked(bool on)
     case VKD_P_RadioGroup::AllEarthquake:
         emit buttonAllEartChecked();
         break;
-    case -1:
-        return;
     default:
         break;
     }
