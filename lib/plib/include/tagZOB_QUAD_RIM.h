@@ -18,7 +18,7 @@ struct tagZOB_QUAD_RIM
     int32_t subId; // 0 in records of this family
     int32_t type;  // 0 no design, 1 two layers (orthogonal), 2 two layers, 3 three layers, 4 circular
     int32_t mode;
-    int32_t mark; // 0 or 11 in records of this family
+    int32_t mark;                           // 0 or 11 in records of this family
     float rio, rioq, rioi, riu, riuq, riui; // directions of the layers, radians
     float xref, yref, zref;                 // reference point of circular reinforcement
     float hio, hioq, hioi, hiu, hiuq, hiui; // distances from the surface (stored form)
@@ -33,8 +33,10 @@ struct tagZOB_QUAD_RIM
 };
 
 static_assert(sizeof(int32_t) == 4 && sizeof(float) == 4, "the record is made of four-byte words");
-static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__, "the record is exchanged little-endian as it stands");
-static_assert(std::is_standard_layout<tagZOB_QUAD_RIM>::value && std::is_trivially_copyable<tagZOB_QUAD_RIM>::value,
+static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__,
+              "the record is exchanged little-endian as it stands");
+static_assert(std::is_standard_layout<tagZOB_QUAD_RIM>::value &&
+                  std::is_trivially_copyable<tagZOB_QUAD_RIM>::value,
               "the record is copied byte for byte");
 static_assert(sizeof(tagZOB_QUAD_RIM) == 212, "the record is 212 bytes");
 static_assert(offsetof(tagZOB_QUAD_RIM, group) == 0);

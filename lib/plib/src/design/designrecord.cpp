@@ -9,20 +9,22 @@ namespace vkd::plib::design {
 
 using R = tagZOB_QUAD_RIM;
 
+// clang-format off
 const RealField kRealFields[48] = {
-    {"rio", &R::rio},     {"rioq", &R::rioq},   {"rioi", &R::rioi},   {"riu", &R::riu},
-    {"riuq", &R::riuq},   {"riui", &R::riui},   {"xref", &R::xref},   {"yref", &R::yref},
-    {"zref", &R::zref},   {"hio", &R::hio},     {"hioq", &R::hioq},   {"hioi", &R::hioi},
-    {"hiu", &R::hiu},     {"hiuq", &R::hiuq},   {"hiui", &R::hiui},   {"dio", &R::dio},
-    {"dioq", &R::dioq},   {"dioi", &R::dioi},   {"diu", &R::diu},     {"diuq", &R::diuq},
-    {"diui", &R::diui},   {"reservedD", &R::reservedD}, {"aso", &R::aso}, {"asoq", &R::asoq},
-    {"asoi", &R::asoi},   {"asu", &R::asu},     {"asuq", &R::asuq},   {"asui", &R::asui},
-    {"reservedS", &R::reservedS}, {"amo", &R::amo}, {"amoq", &R::amoq}, {"amoi", &R::amoi},
-    {"amu", &R::amu},     {"amuq", &R::amuq},   {"amui", &R::amui},   {"reservedM", &R::reservedM},
-    {"wko", &R::wko},     {"wkoq", &R::wkoq},   {"wkoi", &R::wkoi},   {"wku", &R::wku},
-    {"wkuq", &R::wkuq},   {"wkui", &R::wkui},   {"sigo", &R::sigo},   {"sigoq", &R::sigoq},
-    {"sigoi", &R::sigoi}, {"sigu", &R::sigu},   {"siguq", &R::siguq}, {"sigui", &R::sigui},
+    {"rio", &R::rio}, {"rioq", &R::rioq}, {"rioi", &R::rioi}, {"riu", &R::riu}, {"riuq", &R::riuq}, {"riui", &R::riui},
+    {"xref", &R::xref}, {"yref", &R::yref}, {"zref", &R::zref},
+    {"hio", &R::hio}, {"hioq", &R::hioq}, {"hioi", &R::hioi}, {"hiu", &R::hiu}, {"hiuq", &R::hiuq}, {"hiui", &R::hiui},
+    {"dio", &R::dio}, {"dioq", &R::dioq}, {"dioi", &R::dioi}, {"diu", &R::diu}, {"diuq", &R::diuq}, {"diui", &R::diui},
+    {"reservedD", &R::reservedD},
+    {"aso", &R::aso}, {"asoq", &R::asoq}, {"asoi", &R::asoi}, {"asu", &R::asu}, {"asuq", &R::asuq}, {"asui", &R::asui},
+    {"reservedS", &R::reservedS},
+    {"amo", &R::amo}, {"amoq", &R::amoq}, {"amoi", &R::amoi}, {"amu", &R::amu}, {"amuq", &R::amuq}, {"amui", &R::amui},
+    {"reservedM", &R::reservedM},
+    {"wko", &R::wko}, {"wkoq", &R::wkoq}, {"wkoi", &R::wkoi}, {"wku", &R::wku}, {"wkuq", &R::wkuq}, {"wkui", &R::wkui},
+    {"sigo", &R::sigo}, {"sigoq", &R::sigoq}, {"sigoi", &R::sigoi},
+    {"sigu", &R::sigu}, {"siguq", &R::siguq}, {"sigui", &R::sigui},
 };
+// clang-format on
 
 namespace {
 
@@ -35,7 +37,7 @@ struct Triple
 constexpr Triple kTriples[] = {{&R::hio, &R::hioq, &R::hioi}, {&R::hiu, &R::hiuq, &R::hiui}};
 
 constexpr float R::*kDistances[] = {&R::hio, &R::hioq, &R::hioi, &R::hiu, &R::hiuq, &R::hiui};
-constexpr float R::*kCrackControl[] = {&R::wko, &R::wkoq, &R::wkoi, &R::wku, &R::wkuq, &R::wkui,
+constexpr float R::*kCrackControl[] = {&R::wko,  &R::wkoq,  &R::wkoi,  &R::wku,  &R::wkuq,  &R::wkui,
                                        &R::sigo, &R::sigoq, &R::sigoi, &R::sigu, &R::siguq, &R::sigui};
 constexpr float R::*kOtherDiameters[] = {&R::dioq, &R::dioi, &R::diu, &R::diuq, &R::diui, &R::reservedD};
 constexpr float R::*kLimits[] = {&R::aso, &R::asoq, &R::asoi, &R::asu, &R::asuq, &R::asui, &R::reservedS,

@@ -81,11 +81,14 @@ void readRowsFromZob(DesignParameterData& data)
     if (!remaining.empty()) {
         std::vector<DesignParameterRow> rows;
         rows.reserve(remaining.size() + data.rows.size() + appended.size());
-        rows.insert(rows.end(), std::make_move_iterator(remaining.rbegin()), std::make_move_iterator(remaining.rend()));
-        rows.insert(rows.end(), std::make_move_iterator(data.rows.begin()), std::make_move_iterator(data.rows.end()));
+        rows.insert(rows.end(), std::make_move_iterator(remaining.rbegin()),
+                    std::make_move_iterator(remaining.rend()));
+        rows.insert(rows.end(), std::make_move_iterator(data.rows.begin()),
+                    std::make_move_iterator(data.rows.end()));
         data.rows = std::move(rows);
     }
-    data.rows.insert(data.rows.end(), std::make_move_iterator(appended.begin()), std::make_move_iterator(appended.end()));
+    data.rows.insert(data.rows.end(), std::make_move_iterator(appended.begin()),
+                     std::make_move_iterator(appended.end()));
 }
 
 void writeRowsToZob(DesignParameterData& data, bool& converted)

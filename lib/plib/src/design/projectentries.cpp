@@ -51,7 +51,8 @@ QString element(const QStringList& values, int i)
     return i < values.size() ? values.at(i) : QString();
 }
 
-template <size_t N> void readReals(R& r, float R::*const (&fields)[N], const QStringList& values, int first = 0)
+template <size_t N>
+void readReals(R& r, float R::*const (&fields)[N], const QStringList& values, int first = 0)
 {
     for (size_t i = 0; i < N; ++i)
         r.*fields[i] = element(values, first + int(i)).toFloat();
@@ -61,12 +62,9 @@ template <size_t N> void readReals(R& r, float R::*const (&fields)[N], const QSt
 
 QString entryText(const tagZOB_QUAD_RIM& r)
 {
-    const QStringList fields{integer(r.type),
-                             reals(r, kDirections),
-                             reals(r, kDistances),
-                             reals(r, kReference),
-                             reals(r, kDiameters),
-                             reals(r, kCrackWidths) + reals(r, kStresses),
+    const QStringList fields{integer(r.type),      reals(r, kDirections),
+                             reals(r, kDistances), reals(r, kReference),
+                             reals(r, kDiameters), reals(r, kCrackWidths) + reals(r, kStresses),
                              integer(r.mark)};
     return fields.join(QStringLiteral(" | "));
 }

@@ -73,8 +73,12 @@ bool summarise(int column, int type, Summary& s)
         return true;
     case ColumnReinforcement:
         // Only the principal layer of each side, whatever the type.
-        s.first = {{&R::dio, VKD_H_DIM_BAR_DIAMETER}, {&R::aso, VKD_H_DIM_REINFORCEMENT}, {&R::amo, VKD_H_DIM_REINFORCEMENT}};
-        s.second = {{&R::diu, VKD_H_DIM_BAR_DIAMETER}, {&R::asu, VKD_H_DIM_REINFORCEMENT}, {&R::amu, VKD_H_DIM_REINFORCEMENT}};
+        s.first = {{&R::dio, VKD_H_DIM_BAR_DIAMETER},
+                   {&R::aso, VKD_H_DIM_REINFORCEMENT},
+                   {&R::amo, VKD_H_DIM_REINFORCEMENT}};
+        s.second = {{&R::diu, VKD_H_DIM_BAR_DIAMETER},
+                    {&R::asu, VKD_H_DIM_REINFORCEMENT},
+                    {&R::amu, VKD_H_DIM_REINFORCEMENT}};
         s.closing = false;
         return true;
     case ColumnCrackControl:
@@ -153,8 +157,8 @@ QString rowText(const DesignParameterRow& row, int column)
     Summary s;
     if (!summarise(column, row.record.type, s))
         return QString();
-    return lineText(row, s.first) + QLatin1Char('\n') + lineText(row, s.second)
-        + (s.closing ? QStringLiteral(" ;") : QString());
+    return lineText(row, s.first) + QLatin1Char('\n') + lineText(row, s.second) +
+           (s.closing ? QStringLiteral(" ;") : QString());
 }
 
 } // namespace vkd::plib::design

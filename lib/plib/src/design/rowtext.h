@@ -8,7 +8,14 @@
 
 namespace vkd::plib::design {
 
-enum DesignColumn { ColumnSelection = 0, ColumnType = 1, ColumnDirection = 2, ColumnReinforcement = 3, ColumnCrackControl = 4 };
+enum DesignColumn
+{
+    ColumnSelection = 0,
+    ColumnType = 1,
+    ColumnDirection = 2,
+    ColumnReinforcement = 3,
+    ColumnCrackControl = 4
+};
 
 // Number of design types with a name (0 to 4) and the untranslated name of one; null outside.
 constexpr int kDesignTypeCount = 5;

@@ -58,7 +58,8 @@ bool VKD_A_BarDiameterData::load(int index)
             break;
         if (length < int(sizeof(float)) || !namesABar(record.diameter))
             continue;
-        const QString name = QString::fromUtf8(record.name, int(strnlen(record.name, sizeof record.name))).trimmed();
+        const QString name =
+            QString::fromUtf8(record.name, int(strnlen(record.name, sizeof record.name))).trimmed();
         m_bars.push_back({record.diameter, name.isEmpty() ? defaultName(record.diameter) : name});
     }
     if (m_bars.empty())
@@ -78,7 +79,8 @@ void VKD_A_BarDiameterData::save(int index) const
         if (bar.name != defaultName(bar.diameter)) {
             // Cut at a character boundary so that the stored name stays valid UTF-8.
             QString name = bar.name;
-            while (name.toUtf8().size() > int(sizeof record.name) || (!name.isEmpty() && QChar(name.back()).isHighSurrogate()))
+            while (name.toUtf8().size() > int(sizeof record.name) ||
+                   (!name.isEmpty() && QChar(name.back()).isHighSurrogate()))
                 name.chop(1);
             const QByteArray utf8 = name.toUtf8();
             std::memcpy(record.name, utf8.constData(), size_t(utf8.size()));

@@ -27,7 +27,8 @@ bool VKD_H_ProjectDialogPage::load(int index)
     QByteArray buffer(1024, '\0');
     for (int position = 0;;) {
         int length = buffer.size();
-        const zob_status_t status = vkd_zob_get(index, StoreKey1, m_pageNumber, buffer.data(), &length, position);
+        const zob_status_t status =
+            vkd_zob_get(index, StoreKey1, m_pageNumber, buffer.data(), &length, position);
         if (status == ZOB_NO_DATABASE || status == ZOB_BAD_ARGUMENT)
             return false;
         if (status >= ZOB_END)

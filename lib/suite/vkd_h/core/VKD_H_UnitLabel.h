@@ -6,7 +6,8 @@
 class VKD_H_UnitLabel
 {
 public:
-    enum Form {
+    enum Form
+    {
         BehindNumber = 0, // to be appended directly to a number: " cm", "°"
         Bare = 1          // the unit alone, for headings: "cm", "°"
     };

@@ -1,5 +1,5 @@
-#include "VKD_H_UnitLabel.h"
 #include "vkd_h_units.h"
+#include "VKD_H_UnitLabel.h"
 
 #include <algorithm>
 
@@ -44,8 +44,9 @@ QString vkd_h_formatNumber(double value, int decimals)
 {
     QString text = QString::number(value, 'f', qMax(0, decimals));
     // "-0.00" would tell the user of a sign that the shown digits do not carry.
-    if (text.startsWith(QLatin1Char('-'))
-        && std::none_of(text.cbegin(), text.cend(), [](QChar c) { return c >= QLatin1Char('1') && c <= QLatin1Char('9'); }))
+    if (text.startsWith(QLatin1Char('-')) && std::none_of(text.cbegin(), text.cend(), [](QChar c) {
+            return c >= QLatin1Char('1') && c <= QLatin1Char('9');
+        }))
         text.remove(0, 1);
     return text;
 }

@@ -6,7 +6,8 @@
 #include <QString>
 
 // Dimension codes in use by the design parameters.
-enum VKD_H_DimensionCode : int {
+enum VKD_H_DimensionCode : int
+{
     VKD_H_DIM_NONE = -1,
     VKD_H_DIM_DIRECTION = 5,
     VKD_H_DIM_COORDINATE = 1001,
@@ -20,10 +21,10 @@ enum VKD_H_DimensionCode : int {
 struct VKD_H_Unit
 {
     int code;
-    double factor;    // value in the user's unit = value in base units * factor
-    int decimals;     // decimals of the suite's number format for this code
+    double factor;     // value in the user's unit = value in base units * factor
+    int decimals;      // decimals of the suite's number format for this code
     const char* label; // unit as the user reads it, UTF-8; empty for a bare number
-    bool spaced;      // a blank stands between number and unit (not so for degrees)
+    bool spaced;       // a blank stands between number and unit (not so for degrees)
 };
 
 // The unit of a dimension code, or null for a code the unit system does not know.
