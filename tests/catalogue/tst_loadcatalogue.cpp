@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTranslator>
 #include <QtTest>
 
 #include <sys/fsuid.h>
@@ -131,15 +132,22 @@ void TestLoadCatalogue::init()
 void TestLoadCatalogue::failures_data()
 {
     QTest::addColumn<bool>("onSearchPath");
+    QTest::addColumn<bool>("german");
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("text");
-    QTest::newRow("not on the search path") << false << "File not found" << "File graphicaloutput.data not found";
-    QTest::newRow("found but not readable") << true << "Couldn't open file" << "Failed to open file %1";
+    QTest::newRow("not on the search path")
+        << false << false << "File not found" << "File graphicaloutput.data not found";
+    QTest::newRow("found but not readable") << true << false << "Couldn't open file" << "Failed to open file %1";
+    QTest::newRow("not on the search path, German")
+        << false << true << "Datei nicht gefunden" << "Die Datei graphicaloutput.data wurde nicht gefunden";
+    QTest::newRow("found but not readable, German")
+        << true << true << "Datei konnte nicht geöffnet werden" << "Die Datei %1 konnte nicht geöffnet werden";
 }
 
 void TestLoadCatalogue::failures()
 {
     QFETCH(bool, onSearchPath);
+    QFETCH(bool, german);
     QFETCH(QString, title);
     QFETCH(QString, text);
 
@@ -167,6 +175,11 @@ void TestLoadCatalogue::failures()
         QSKIP("an installed catalogue is on the search path");
     }
 
+    QTranslator translator;
+    if (german) {
+        QVERIFY(translator.load(QStringLiteral(TRANSLATIONS)));
+        QCoreApplication::installTranslator(&translator);
+    }
     QWidget parent;
     for (int attempt = 1; attempt <= 2; ++attempt) {
         BoxAnswerer answerer;
