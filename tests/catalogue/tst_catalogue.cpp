@@ -1,34 +1,33 @@
 #include "captiontokens.h"
 #include "catalogue.h"
-#include "referencefile.h"
+#include "testsupport.h"
 
 #include <vkd_q.h>
 
-#include <QBuffer>
 #include <QtTest>
 
 using namespace vkd::plib::widgetgraphicaloutput;
 
 namespace {
 
-std::vector<GraphicalOutputRecord> parse(const QByteArray& text)
-{
-    QBuffer buffer;
-    buffer.setData(text);
-    buffer.open(QIODevice::ReadOnly);
-    std::vector<GraphicalOutputRecord> records;
-    parseCatalogue(buffer, records);
-    return records;
-}
-
 // The record written back as a catalogue line, column for column.
 QString columns(const GraphicalOutputRecord& r)
 {
-    return QStringList{QString::number(r.prog1),      QString::number(r.prog2),      QString::number(r.prog3),
-                       r.title1,                      r.title2,                      r.title3,
-                       r.contentTag,                  QString::number(r.number7),    r.caseWord,
-                       QString::number(r.preselect),  QString::number(r.viewKind),   r.text11,
-                       QString::number(r.systemMask), r.scriptGerman,                r.scriptEnglish}
+    return QStringList{QString::number(r.prog1),
+                       QString::number(r.prog2),
+                       QString::number(r.prog3),
+                       r.title1,
+                       r.title2,
+                       r.title3,
+                       r.contentTag,
+                       QString::number(r.number7),
+                       r.caseWord,
+                       QString::number(r.preselect),
+                       QString::number(r.viewKind),
+                       r.text11,
+                       QString::number(r.systemMask),
+                       r.scriptGerman,
+                       r.scriptEnglish}
         .join(QLatin1Char('|'));
 }
 
@@ -52,7 +51,8 @@ QString dump(const std::vector<GraphicalOutputRecord>& records)
     for (const GraphicalOutputRecord& r : records) {
         out += QStringLiteral("record %1\n").arg(++n);
         out += QStringLiteral("  programs %1 %2 %3\n").arg(r.prog1).arg(r.prog2).arg(r.prog3);
-        out += QStringLiteral("  captions %1 %2 %3\n").arg(quoted(r.title1), quoted(r.title2), quoted(r.title3));
+        out +=
+            QStringLiteral("  captions %1 %2 %3\n").arg(quoted(r.title1), quoted(r.title2), quoted(r.title3));
         out += QStringLiteral("  ids %1 %2 %3\n").arg(quoted(r.id1), quoted(r.id2), quoted(r.id3));
         out += QStringLiteral("  content %1 number7 %2 text11 %3\n")
                    .arg(quoted(r.contentTag))
@@ -65,7 +65,8 @@ QString dump(const std::vector<GraphicalOutputRecord>& records)
                    .arg(r.rowMark)
                    .arg(r.preselect);
         out += QStringLiteral("  view %1 mask %2\n").arg(r.viewKind).arg(r.systemMask);
-        out += QStringLiteral("  German %1\n  English %2\n").arg(quoted(r.scriptGerman), quoted(r.scriptEnglish));
+        out += QStringLiteral("  German %1\n  English %2\n")
+                   .arg(quoted(r.scriptGerman), quoted(r.scriptEnglish));
     }
     return out;
 }
@@ -74,8 +75,8 @@ QString dump(const std::vector<GraphicalOutputRecord>& records)
 QStringList plot(const QString& german = QStringLiteral("KNOT VERS"),
                  const QString& english = QStringLiteral("NODE DISP"))
 {
-    return {"3", "0", "0", "Results", "Nodes", "Displacement", "Node", "7", "last-l", "1", "1", "x", "0",
-            german, english};
+    return {"3",      "0", "0", "Results", "Nodes", "Displacement", "Node", "7",
+            "last-l", "1", "1", "x",       "0",     german,         english};
 }
 
 QByteArray line(const QStringList& cols, const char* end = "\n")
@@ -95,16 +96,6 @@ QStringList padded(QStringList cols, int length, const char* end)
     cols[11] = QString(length - line(cols, end).size(), QLatin1Char('.'));
     return cols;
 }
-
-class LanguageScope
-{
-public:
-    explicit LanguageScope(int language) : m_saved(vkd_lib_getvalue(102)) { vkd_lib_setvalue(102, language); }
-    ~LanguageScope() { vkd_lib_setvalue(102, m_saved); }
-
-private:
-    int m_saved;
-};
 
 } // namespace
 
@@ -156,13 +147,13 @@ void TestCatalogue::lines_data()
     QTest::newRow("comment with a blank behind the slashes") << "// " + line(good) << QStringList{};
     QTest::newRow("single slash is no comment")
         << "/" + line(good) << QStringList{joined(good).replace(0, 1, QStringLiteral("0"))};
-    QTest::newRow("indented comment is dropped for its parts") << QByteArray("  // a note\n") << QStringList{};
+    QTest::newRow("indented comment is dropped for its parts")
+        << QByteArray("  // a note\n") << QStringList{};
     QTest::newRow("indented comment with all columns is a record")
         << " //" + line(good) << QStringList{joined(good).replace(0, 1, QStringLiteral("0"))};
     QTest::newRow("blank line") << QByteArray(" \t  \n") << QStringList{};
     QTest::newRow("empty line") << QByteArray("\n") << QStringList{};
-    QTest::newRow("blank lines around a record")
-        << "\n  \n" + line(good) + "\n" << QStringList{joined(good)};
+    QTest::newRow("blank lines around a record") << "\n  \n" + line(good) + "\n" << QStringList{joined(good)};
     QTest::newRow("13 parts") << line(thirteen) << QStringList{};
     QTest::newRow("14 parts as the first record") << line(fourteen) << QStringList{};
     QTest::newRow("14 parts take the English script of the line before")
@@ -172,7 +163,8 @@ void TestCatalogue::lines_data()
         << line(good) + "// note\n" + line(fourteen)
         << QStringList{joined(good), joined(fourteen) + QStringLiteral("|NODE DISP")};
     QTest::newRow("14 parts take it from a line that was dropped")
-        << line(blankGerman) + line(fourteen) << QStringList{joined(fourteen) + QStringLiteral("|DROPPED EN")};
+        << line(blankGerman) + line(fourteen)
+        << QStringList{joined(fourteen) + QStringLiteral("|DROPPED EN")};
     QTest::newRow("16 parts") << line(sixteen) << QStringList{joined(good)};
     QTest::newRow("blank German script") << line(blankGerman) << QStringList{};
     QTest::newRow("blank English script") << line(blankEnglish) << QStringList{};
@@ -182,8 +174,7 @@ void TestCatalogue::lines_data()
     QTest::newRow("adjacent bars leave 14 parts")
         << QByteArray("3|0||Results|Nodes|Displacement|Node|7|last-l|1|1|x|0|KNOT VERS|NODE DISP\n")
         << QStringList{};
-    QTest::newRow("trailing bar behind 14 columns")
-        << line(fourteen, "|\n") << QStringList{};
+    QTest::newRow("trailing bar behind 14 columns") << line(fourteen, "|\n") << QStringList{};
     QTest::newRow("trailing bar behind 14 columns wipes the carried script")
         << line(good) + line(fourteen, "|\n") + line(fourteen) << QStringList{joined(good)};
     QTest::newRow("trailing bar behind 15 columns") << line(good, "|\n") << QStringList{joined(good)};
@@ -191,23 +182,26 @@ void TestCatalogue::lines_data()
         << QByteArray("3|0|0|Results|Nodes|Displacement| | | | | | | |KNOT VERS|NODE DISP\n")
         << QStringList{"3|0|0|Results|Nodes|Displacement||0||0|0||0|KNOT VERS|NODE DISP"};
     QTest::newRow("numbers that are no numbers read 0")
-        << QByteArray("x|1e3| +5 |Results|Nodes|Displacement|Node|seven|last|one|2.5|x|0x8|KNOT VERS|NODE DISP\n")
+        << QByteArray(
+               "x|1e3| +5 |Results|Nodes|Displacement|Node|seven|last|one|2.5|x|0x8|KNOT VERS|NODE DISP\n")
         << QStringList{"0|0|5|Results|Nodes|Displacement|Node|0|last|0|0|x|0|KNOT VERS|NODE DISP"};
     QTest::newRow("fields are trimmed")
-        << QByteArray(" 3 |\t122\t| 222|  Results |Nodes|Displacement| Node |7| LAST-L |2|3| x | 9 | KNOT VERS |  NODE DISP  \n")
+        << QByteArray(" 3 |\t122\t| 222|  Results |Nodes|Displacement| Node |7| LAST-L |2|3| x | 9 | KNOT "
+                      "VERS |  NODE DISP  \n")
         << QStringList{"3|122|222|Results|Nodes|Displacement|Node|7|LAST-L|2|3|x|9|KNOT VERS|NODE DISP"};
     QTest::newRow("carriage return before the line feed") << line(good, "\r\n") << QStringList{joined(good)};
     QTest::newRow("no line feed at the end") << line(good, "") << QStringList{joined(good)};
     QTest::newRow("UTF-8 text")
         << QByteArray("3|0|0|Ergebnisse|Knoten|Verschiebung ü|Node|0|last|1|1| |0|KNOT VERS ä|NODE DISP\n")
-        << QStringList{QStringLiteral("3|0|0|Ergebnisse|Knoten|Verschiebung ü|Node|0|last|1|1||0|KNOT VERS ä|NODE DISP")};
+        << QStringList{QStringLiteral(
+               "3|0|0|Ergebnisse|Knoten|Verschiebung ü|Node|0|last|1|1||0|KNOT VERS ä|NODE DISP")};
 }
 
 void TestCatalogue::lines()
 {
     QFETCH(QByteArray, text);
     QFETCH(QStringList, records);
-    QCOMPARE(columnsOf(parse(text)), records);
+    QCOMPARE(columnsOf(parseText(text)), records);
 }
 
 void TestCatalogue::longLines_data()
@@ -251,7 +245,7 @@ void TestCatalogue::longLines()
     QFETCH(int, physicalLength);
     QFETCH(QStringList, records);
     QCOMPARE(text.indexOf('\n') + 1, physicalLength);
-    QCOMPARE(columnsOf(parse(text)), records);
+    QCOMPARE(columnsOf(parseText(text)), records);
 }
 
 void TestCatalogue::caseWord_data()
@@ -297,7 +291,7 @@ void TestCatalogue::caseWord()
     QFETCH(int, rowMark);
     QStringList cols = plot();
     cols[8] = word;
-    const std::vector<GraphicalOutputRecord> records = parse(line(cols));
+    const std::vector<GraphicalOutputRecord> records = parseText(line(cols));
     QCOMPARE(records.size(), size_t(1));
     QCOMPARE(records[0].caseWord, word.trimmed());
     QCOMPARE(records[0].ctrl, ctrl);
@@ -313,39 +307,70 @@ void TestCatalogue::captionColumn_data()
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("id");
 
-    QTest::newRow("plain, first column") << "abc" << 3 << 1 << "abc" << "    001";
-    QTest::newRow("plain, second column") << "abc" << 4 << 1 << "abc" << "    002";
-    QTest::newRow("plain, third column") << "Top  view" << 5 << 1 << "Top  view" << "    003";
-    QTest::newRow("key text with fallback") << "&ABC Fallback" << 4 << 1 << "Base" << "   &ABC";
-    QTest::newRow("key text, German") << "&ABC Fallback" << 4 << 0 << "Basis" << "   &ABC";
-    QTest::newRow("key text alone") << "&ABC" << 5 << 1 << "Base" << "   &ABC";
-    QTest::newRow("token without text takes the fallback") << "&XYZ  Fallback " << 5 << 1 << "Fallback" << "   &XYZ";
-    QTest::newRow("token without text or fallback") << "&XYZ" << 3 << 1 << "" << "   &XYZ";
-    QTest::newRow("key glued to its fallback") << "&XYZFallback" << 3 << 1 << "Fallback" << "   &XYZ";
-    QTest::newRow("class 1") << "^CAR Caret?" << 3 << 0 << "Dach" << "   ^CAR";
-    QTest::newRow("class 4") << "$DOL" << 3 << 1 << "Dollar text" << "   $DOL";
-    QTest::newRow("the sign picks the class") << "^ABC other class" << 3 << 1 << "other class" << "   ^ABC";
-    QTest::newRow("short form before > dropped") << "&GTK" << 3 << 1 << "Long" << "   &GTK";
-    QTest::newRow("> at the start kept") << "&GT0" << 3 << 0 << ">Anfang" << "   &GT0";
-    QTest::newRow("> kept outside class 0") << "^GTK" << 3 << 1 << "c>d" << "   ^GTK";
-    QTest::newRow("qualified example") << "1 A&ABC" << 3 << 1 << "Prefix  Base I" << "1 A&ABC";
-    QTest::newRow("qualified with fallback") << "1 A&ABC Fallback" << 4 << 0 << "Vorsatz  Basis I" << "1 A&ABC";
+    QTest::newRow("plain, first column") << "abc" << 3 << 1 << "abc"
+                                         << "    001";
+    QTest::newRow("plain, second column") << "abc" << 4 << 1 << "abc"
+                                          << "    002";
+    QTest::newRow("plain, third column") << "Top  view" << 5 << 1 << "Top  view"
+                                         << "    003";
+    QTest::newRow("key text with fallback") << "&ABC Fallback" << 4 << 1 << "Base"
+                                            << "   &ABC";
+    QTest::newRow("key text, German") << "&ABC Fallback" << 4 << 0 << "Basis"
+                                      << "   &ABC";
+    QTest::newRow("key text alone") << "&ABC" << 5 << 1 << "Base"
+                                    << "   &ABC";
+    QTest::newRow("token without text takes the fallback") << "&XYZ  Fallback " << 5 << 1 << "Fallback"
+                                                           << "   &XYZ";
+    QTest::newRow("token without text or fallback") << "&XYZ" << 3 << 1 << ""
+                                                    << "   &XYZ";
+    QTest::newRow("key glued to its fallback") << "&XYZFallback" << 3 << 1 << "Fallback"
+                                               << "   &XYZ";
+    QTest::newRow("class 1") << "^CAR Caret?" << 3 << 0 << "Dach"
+                             << "   ^CAR";
+    QTest::newRow("class 4") << "$DOL" << 3 << 1 << "Dollar text"
+                             << "   $DOL";
+    QTest::newRow("the sign picks the class") << "^ABC other class" << 3 << 1 << "other class"
+                                              << "   ^ABC";
+    QTest::newRow("short form before > dropped") << "&GTK" << 3 << 1 << "Long"
+                                                 << "   &GTK";
+    QTest::newRow("> at the start kept") << "&GT0" << 3 << 0 << ">Anfang"
+                                         << "   &GT0";
+    QTest::newRow("> kept outside class 0") << "^GTK" << 3 << 1 << "c>d"
+                                            << "   ^GTK";
+    QTest::newRow("qualified example") << "1 A&ABC" << 3 << 1 << "Prefix  Base I"
+                                       << "1 A&ABC";
+    QTest::newRow("qualified with fallback") << "1 A&ABC Fallback" << 4 << 0 << "Vorsatz  Basis I"
+                                             << "1 A&ABC";
     QTest::newRow("qualified token without text keeps the qualifiers")
-        << "1 A&XYZ Fallback" << 4 << 1 << "Prefix  I" << "1 A&XYZ";
+        << "1 A&XYZ Fallback" << 4 << 1 << "Prefix  I"
+        << "1 A&XYZ";
     QTest::newRow("qualifiers without any text take the fallback")
-        << "---&XYZ Fallback" << 5 << 1 << "Fallback" << "---&XYZ";
-    QTest::newRow("dashes add nothing") << "---&ABC" << 5 << 1 << "Base" << "---&ABC";
-    QTest::newRow("leading blank of a qualifier is trimmed away") << "  A&ABC" << 5 << 1 << "A&ABC" << "    003";
-    QTest::newRow("@ form") << "@ND1 Nodes" << 4 << 1 << "Nodes" << "   @ND1";
-    QTest::newRow("@ form is literal in German") << "@ND1 Nodes" << 4 << 0 << "Nodes" << "   @ND1";
-    QTest::newRow("@ form alone") << "@ND1" << 4 << 1 << "" << "   @ND1";
-    QTest::newRow("@ form with blanks") << "@ND1    Nodes of the model" << 3 << 1 << "Nodes of the model" << "   @ND1";
-    QTest::newRow("@ form of a key with text") << "@ABC Literal" << 3 << 1 << "Literal" << "   @ABC";
-    QTest::newRow("@ counts in the first place only") << "abc@efg" << 3 << 1 << "abc@efg" << "    001";
-    QTest::newRow("@ behind qualifiers is plain") << "12 @ND1 Nodes" << 3 << 1 << "12 @ND1 Nodes" << "    001";
-    QTest::newRow("sign in fourth place needs seven characters") << "abc&AB" << 3 << 1 << "abc&AB" << "    001";
-    QTest::newRow("three characters are no key text") << "&AB" << 4 << 1 << "&AB" << "    002";
-    QTest::newRow("other sign") << "#ABC Text" << 5 << 1 << "#ABC Text" << "    003";
+        << "---&XYZ Fallback" << 5 << 1 << "Fallback"
+        << "---&XYZ";
+    QTest::newRow("dashes add nothing") << "---&ABC" << 5 << 1 << "Base"
+                                        << "---&ABC";
+    QTest::newRow("leading blank of a qualifier is trimmed away") << "  A&ABC" << 5 << 1 << "A&ABC"
+                                                                  << "    003";
+    QTest::newRow("@ form") << "@ND1 Nodes" << 4 << 1 << "Nodes"
+                            << "   @ND1";
+    QTest::newRow("@ form is literal in German") << "@ND1 Nodes" << 4 << 0 << "Nodes"
+                                                 << "   @ND1";
+    QTest::newRow("@ form alone") << "@ND1" << 4 << 1 << ""
+                                  << "   @ND1";
+    QTest::newRow("@ form with blanks") << "@ND1    Nodes of the model" << 3 << 1 << "Nodes of the model"
+                                        << "   @ND1";
+    QTest::newRow("@ form of a key with text") << "@ABC Literal" << 3 << 1 << "Literal"
+                                               << "   @ABC";
+    QTest::newRow("@ counts in the first place only") << "abc@efg" << 3 << 1 << "abc@efg"
+                                                      << "    001";
+    QTest::newRow("@ behind qualifiers is plain") << "12 @ND1 Nodes" << 3 << 1 << "12 @ND1 Nodes"
+                                                  << "    001";
+    QTest::newRow("sign in fourth place needs seven characters") << "abc&AB" << 3 << 1 << "abc&AB"
+                                                                 << "    001";
+    QTest::newRow("three characters are no key text") << "&AB" << 4 << 1 << "&AB"
+                                                      << "    002";
+    QTest::newRow("other sign") << "#ABC Text" << 5 << 1 << "#ABC Text"
+                                << "    003";
 }
 
 void TestCatalogue::captionColumn()
@@ -358,7 +383,7 @@ void TestCatalogue::captionColumn()
     QStringList cols = plot();
     cols[column] = field;
     LanguageScope scope(language);
-    const std::vector<GraphicalOutputRecord> records = parse(line(cols));
+    const std::vector<GraphicalOutputRecord> records = parseText(line(cols));
     QCOMPARE(records.size(), size_t(1));
     const GraphicalOutputRecord& r = records[0];
     const QString titles[3] = {r.title1, r.title2, r.title3};
@@ -412,9 +437,11 @@ void TestCatalogue::captionText_data()
     QTest::newRow("second h") << "-h-&ABC" << 1 << false << " Base hatched";
     QTest::newRow("second t") << "-t-&ABC" << 0 << false << " Basis im Schnitt";
     QTest::newRow("second 3 adds nothing") << "-3-&ABC" << 1 << false << " Base";
-    QTest::newRow("order: third, base, first, second") << "U2R&ABC" << 1 << false << "Rare  Base bottom layer 2";
+    QTest::newRow("order: third, base, first, second")
+        << "U2R&ABC" << 1 << false << "Rare  Base bottom layer 2";
     QTest::newRow("qualified class 1 base") << "X-A^CAR" << 1 << false << "Prefix  Caret global X";
-    QTest::newRow("qualified class 4 base") << "a+-$DOL" << 1 << false << " Dollar text direction a layer 1 + 2";
+    QTest::newRow("qualified class 4 base")
+        << "a+-$DOL" << 1 << false << " Dollar text direction a layer 1 + 2";
     QTest::newRow("base without text keeps qualifiers") << "X-A&XYZ" << 1 << false << "Prefix  global X";
 }
 
@@ -441,15 +468,33 @@ void TestCatalogue::expand_data()
     QTest::addColumn<QString>("result");
     QTest::addColumn<bool>("metToken");
 
-    QTest::newRow("behind") << "&ABC" << "" << "x" << false << "x Base" << true;
-    QTest::newRow("before") << "&ABC" << "" << "x" << true << "Base x" << true;
-    QTest::newRow("before an empty text") << "&ABC" << "" << "" << true << "Base " << true;
-    QTest::newRow("token and suffix") << "&0ZG" << "X" << "Base" << false << "Base global X" << true;
-    QTest::newRow("suffix goes behind also with before") << "&ABC" << "I" << "x" << true << "Base x I" << true;
-    QTest::newRow("suffix alone") << "" << "II" << "x" << false << "x II" << true;
-    QTest::newRow("nothing") << "" << "" << "x" << false << "x" << true;
-    QTest::newRow("token without text") << "&XYZ" << "" << "x" << false << "x" << true;
-    QTest::newRow("no token is taken as text") << "@ND1" << "" << "x" << false << "x @ND1" << false;
+    QTest::newRow("behind") << "&ABC"
+                            << ""
+                            << "x" << false << "x Base" << true;
+    QTest::newRow("before") << "&ABC"
+                            << ""
+                            << "x" << true << "Base x" << true;
+    QTest::newRow("before an empty text") << "&ABC"
+                                          << ""
+                                          << "" << true << "Base " << true;
+    QTest::newRow("token and suffix") << "&0ZG"
+                                      << "X"
+                                      << "Base" << false << "Base global X" << true;
+    QTest::newRow("suffix goes behind also with before") << "&ABC"
+                                                         << "I"
+                                                         << "x" << true << "Base x I" << true;
+    QTest::newRow("suffix alone") << ""
+                                  << "II"
+                                  << "x" << false << "x II" << true;
+    QTest::newRow("nothing") << ""
+                             << ""
+                             << "x" << false << "x" << true;
+    QTest::newRow("token without text") << "&XYZ"
+                                        << ""
+                                        << "x" << false << "x" << true;
+    QTest::newRow("no token is taken as text") << "@ND1"
+                                               << ""
+                                               << "x" << false << "x @ND1" << false;
 }
 
 void TestCatalogue::expand()
@@ -489,7 +534,8 @@ void TestCatalogue::sampleCatalogue()
 void TestCatalogue::appendsToTheSharedList()
 {
     catalogueList().clear();
-    const QByteArray text = line(plot()) + line(plot(QStringLiteral("STAB SCHN"), QStringLiteral("BEAM FORC")));
+    const QByteArray text =
+        line(plot()) + line(plot(QStringLiteral("STAB SCHN"), QStringLiteral("BEAM FORC")));
     QBuffer buffer;
     buffer.setData(text);
     buffer.open(QIODevice::ReadOnly);

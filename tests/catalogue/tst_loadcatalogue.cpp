@@ -1,5 +1,6 @@
 #include "catalogue.h"
 #include "loadcatalogue.h"
+#include "testsupport.h"
 
 #include <vkd_q.h>
 
@@ -52,9 +53,10 @@ private:
     QTimer m_timer;
 };
 
-const QByteArray twoPlots = "// two plots\n"
-                            "1|0|0|&ABC Results|@ND1 Nodes|X--&ABC Displacement|Node|0|last-l|1|1| |0|KNOT VERS UX|NODE DISP UX\n"
-                            "1|0|0|&ABC Results|@ND1 Nodes|^CAR|Node|0|none|0|0| |0|KNOT NUMM|NODE NUMB\n";
+const QByteArray twoPlots =
+    "// two plots\n"
+    "1|0|0|&ABC Results|@ND1 Nodes|X--&ABC Displacement|Node|0|last-l|1|1| |0|KNOT VERS UX|NODE DISP UX\n"
+    "1|0|0|&ABC Results|@ND1 Nodes|^CAR|Node|0|none|0|0| |0|KNOT NUMM|NODE NUMB\n";
 
 void writeCatalogue(const QTemporaryDir& dir, const QByteArray& text)
 {
@@ -67,7 +69,8 @@ void writeCatalogue(const QTemporaryDir& dir, const QByteArray& text)
 // program.
 void searchIn(const QString& folder)
 {
-    qputenv("VKD_SEARCHPATH", (folder + QLatin1Char(':') + QStringLiteral(TEST_DATA_DIR "/textservice")).toUtf8());
+    qputenv("VKD_SEARCHPATH",
+            (folder + QLatin1Char(':') + QStringLiteral(TEST_DATA_DIR "/textservice")).toUtf8());
 }
 
 QStringList captions()
@@ -77,16 +80,6 @@ QStringList captions()
         out << r.title1 + QLatin1Char('/') + r.title2 + QLatin1Char('/') + r.title3;
     return out;
 }
-
-class LanguageScope
-{
-public:
-    explicit LanguageScope(int language) : m_saved(vkd_lib_getvalue(102)) { vkd_lib_setvalue(102, language); }
-    ~LanguageScope() { vkd_lib_setvalue(102, m_saved); }
-
-private:
-    int m_saved;
-};
 
 // Denies this thread the reading of files without read permission. Root reads every file,
 // whatever its permissions say, unless the file system user is another one. The process stays in
@@ -135,13 +128,14 @@ void TestLoadCatalogue::failures_data()
     QTest::addColumn<bool>("german");
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("text");
-    QTest::newRow("not on the search path")
-        << false << false << "File not found" << "File graphicaloutput.data not found";
-    QTest::newRow("found but not readable") << true << false << "Couldn't open file" << "Failed to open file %1";
-    QTest::newRow("not on the search path, German")
-        << false << true << "Datei nicht gefunden" << "Die Datei graphicaloutput.data wurde nicht gefunden";
-    QTest::newRow("found but not readable, German")
-        << true << true << "Datei konnte nicht geöffnet werden" << "Die Datei %1 konnte nicht geöffnet werden";
+    QTest::newRow("not on the search path") << false << false << "File not found"
+                                            << "File graphicaloutput.data not found";
+    QTest::newRow("found but not readable") << true << false << "Couldn't open file"
+                                            << "Failed to open file %1";
+    QTest::newRow("not on the search path, German") << false << true << "Datei nicht gefunden"
+                                                    << "Die Datei graphicaloutput.data wurde nicht gefunden";
+    QTest::newRow("found but not readable, German") << true << true << "Datei konnte nicht geöffnet werden"
+                                                    << "Die Datei %1 konnte nicht geöffnet werden";
 }
 
 void TestLoadCatalogue::failures()
@@ -164,8 +158,9 @@ void TestLoadCatalogue::failures()
     searchIn(bad.path());
     if (onSearchPath) {
         writeCatalogue(bad, twoPlots);
-        QFile::setPermissions(bad.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
-                                              QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
+        QFile::setPermissions(bad.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                              QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
+                                              QFile::ExeOther);
         QFile::setPermissions(path, QFile::Permissions());
         UnprivilegedFileAccess access;
         QFile probe(path);

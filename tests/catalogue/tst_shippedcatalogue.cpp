@@ -1,9 +1,9 @@
 #include "captiontokens.h"
 #include "catalogue.h"
+#include "testsupport.h"
 
 #include <vkd_q.h>
 
-#include <QBuffer>
 #include <QFile>
 #include <QHash>
 #include <QSet>
@@ -17,19 +17,9 @@ namespace {
 
 struct DataLine
 {
-    int number;    // in the file, from 1
+    int number; // in the file, from 1
     QByteArray text;
 };
-
-std::vector<GraphicalOutputRecord> parse(const QByteArray& text)
-{
-    QBuffer buffer;
-    buffer.setData(text);
-    buffer.open(QIODevice::ReadOnly);
-    std::vector<GraphicalOutputRecord> records;
-    parseCatalogue(buffer, records);
-    return records;
-}
 
 QString plotId(const GraphicalOutputRecord& r)
 {
@@ -40,16 +30,6 @@ bool offeredOn(const GraphicalOutputRecord& r, int program)
 {
     return r.prog1 == program || r.prog2 == program || r.prog3 == program;
 }
-
-class LanguageScope
-{
-public:
-    explicit LanguageScope(int language) : m_saved(vkd_lib_getvalue(102)) { vkd_lib_setvalue(102, language); }
-    ~LanguageScope() { vkd_lib_setvalue(102, m_saved); }
-
-private:
-    int m_saved;
-};
 
 } // namespace
 
@@ -109,9 +89,10 @@ void TestShippedCatalogue::everyLineIsARecord()
     LanguageScope scope(language);
     for (const DataLine& line : qAsConst(m_lines)) {
         QVERIFY2(line.text.size() < 1023, qPrintable(QStringLiteral("line %1 is too long").arg(line.number)));
-        QVERIFY2(parse(line.text).size() == 1, qPrintable(QStringLiteral("line %1 is dropped").arg(line.number)));
+        QVERIFY2(parseText(line.text).size() == 1,
+                 qPrintable(QStringLiteral("line %1 is dropped").arg(line.number)));
     }
-    QCOMPARE(parse(m_text).size(), size_t(m_lines.size()));
+    QCOMPARE(parseText(m_text).size(), size_t(m_lines.size()));
 }
 
 void TestShippedCatalogue::captionsResolve_data()
@@ -127,12 +108,13 @@ void TestShippedCatalogue::captionsResolve()
     LanguageScope scope(language);
     for (const DataLine& line : qAsConst(m_lines)) {
         const QStringList parts = QString::fromUtf8(line.text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
-        const std::vector<GraphicalOutputRecord> records = parse(line.text);
+        const std::vector<GraphicalOutputRecord> records = parseText(line.text);
         QCOMPARE(records.size(), size_t(1));
         const QString titles[3] = {records[0].title1, records[0].title2, records[0].title3};
         for (int column = 3; column <= 5; ++column) {
             const QString field = parts.at(column).trimmed();
-            const QString where = QStringLiteral("line %1, column %2: %3").arg(line.number).arg(column).arg(field);
+            const QString where =
+                QStringLiteral("line %1, column %2: %3").arg(line.number).arg(column).arg(field);
             const QString title = titles[column - 3];
             QVERIFY2(!title.isEmpty(), qPrintable(where));
             QVERIFY2(!title.contains(QLatin1Char('>')), qPrintable(where));
@@ -140,14 +122,16 @@ void TestShippedCatalogue::captionsResolve()
                 const QString text = captionText(field).trimmed();
                 QCOMPARE(title, text);
                 const bool qualified = isKeyText(QStringView(field).mid(3, 4));
-                QVERIFY2(!captionText(qualified ? field.mid(3) : field).trimmed().isEmpty(), qPrintable(where));
+                QVERIFY2(!captionText(qualified ? field.mid(3) : field).trimmed().isEmpty(),
+                         qPrintable(where));
                 // Every qualifier other than "-" adds a text: none of them is a slip.
                 if (qualified) {
                     for (int i = 0; i < 3; ++i) {
                         QString without = field;
                         without[i] = QLatin1Char('-');
                         if (field.at(i) != QLatin1Char('-'))
-                            QVERIFY2(captionText(without).trimmed().length() < text.length(), qPrintable(where));
+                            QVERIFY2(captionText(without).trimmed().length() < text.length(),
+                                     qPrintable(where));
                     }
                 }
             }
@@ -186,7 +170,7 @@ void TestShippedCatalogue::storedChoicesTellPlotsApart()
 {
     QFETCH(int, language);
     LanguageScope scope(language);
-    const std::vector<GraphicalOutputRecord> records = parse(m_text);
+    const std::vector<GraphicalOutputRecord> records = parseText(m_text);
     std::set<int> programs;
     for (const GraphicalOutputRecord& r : records)
         programs.insert({r.prog1, r.prog2, r.prog3});
@@ -199,8 +183,10 @@ void TestShippedCatalogue::storedChoicesTellPlotsApart()
             if (!offeredOn(r, program))
                 continue;
             const QString plot = r.title1 + QLatin1Char('/') + r.title2 + QLatin1Char('/') + r.title3;
-            QVERIFY2(!plots.contains(plotId(r)),
-                     qPrintable(QStringLiteral("page %1: %2 and %3").arg(program).arg(plots.value(plotId(r)), plot)));
+            QVERIFY2(
+                !plots.contains(plotId(r)),
+                qPrintable(
+                    QStringLiteral("page %1: %2 and %3").arg(program).arg(plots.value(plotId(r)), plot)));
             plots.insert(plotId(r), plot);
             QCOMPARE(tops.value(r.id1, r.title1), r.title1);
             tops.insert(r.id1, r.title1);
@@ -213,7 +199,7 @@ void TestShippedCatalogue::storedChoicesTellPlotsApart()
 
 void TestShippedCatalogue::splitPageTokensOnlyOnTheSplitPage()
 {
-    const std::vector<GraphicalOutputRecord> records = parse(m_text);
+    const std::vector<GraphicalOutputRecord> records = parseText(m_text);
     int split = 0;
     for (const GraphicalOutputRecord& r : records) {
         const bool token = r.scriptGerman.contains(QLatin1String("$(LFNR)"));
@@ -230,7 +216,7 @@ void TestShippedCatalogue::splitPageTokensOnlyOnTheSplitPage()
 // of binding, default choice and view.
 void TestShippedCatalogue::coversEveryBinding()
 {
-    const std::vector<GraphicalOutputRecord> records = parse(m_text);
+    const std::vector<GraphicalOutputRecord> records = parseText(m_text);
     std::set<int> ctrl, rowClass, rowMark, preselect, viewKind, programs;
     QSet<QString> words;
     int eg3 = 0;
@@ -243,8 +229,10 @@ void TestShippedCatalogue::coversEveryBinding()
         viewKind.insert(r.viewKind);
         programs.insert({r.prog1, r.prog2, r.prog3});
         words.insert(r.caseWord.toLower().section(QLatin1Char('-'), 0, 0));
-        eg3 += r.scriptGerman.contains(QLatin1String("EG3")) && r.scriptEnglish.contains(QLatin1String("EG3"));
-        unit += r.scriptGerman.contains(QLatin1String("UNIT")) && r.scriptEnglish.contains(QLatin1String("UNIT"));
+        eg3 +=
+            r.scriptGerman.contains(QLatin1String("EG3")) && r.scriptEnglish.contains(QLatin1String("EG3"));
+        unit +=
+            r.scriptGerman.contains(QLatin1String("UNIT")) && r.scriptEnglish.contains(QLatin1String("UNIT"));
     }
     QCOMPARE(ctrl, (std::set<int>{-10, -1, 0, 1, 8}));
     QCOMPARE(rowClass, (std::set<int>{0, 1, 2, 3}));

@@ -14,72 +14,36 @@ bool isTokenSign(QChar c)
 // What a qualifier character adds: the text of a token, a literal suffix, or both.
 struct Qualifier
 {
-    QString token;
-    QString suffix;
+    char character;
+    const char* token;
+    const char* suffix;
 };
 
 // Stands in front of the base text.
-Qualifier thirdQualifier(QChar c)
-{
-    switch (c.unicode()) {
-    case 'A': return {QStringLiteral("&25C"), {}};
-    case 'C': return {QStringLiteral("&27W"), {}};
-    case 'D': return {QStringLiteral("&271"), {}};
-    case 'I': return {QStringLiteral("&20A"), {}};
-    case 'R': return {QStringLiteral("&27Q"), {}};
-    case 'S': return {QStringLiteral("&27E"), {}};
-    default: return {};
-    }
-}
+constexpr Qualifier thirdPlace[] = {{'A', "&25C", ""}, {'C', "&27W", ""}, {'D', "&271", ""},
+                                    {'I', "&20A", ""}, {'R', "&27Q", ""}, {'S', "&27E", ""}};
 
 // Follows the base text.
-Qualifier firstQualifier(QChar c)
-{
-    switch (c.unicode()) {
-    case '1': return {{}, QStringLiteral("I")};
-    case '2': return {{}, QStringLiteral("II")};
-    case '3': return {{}, QStringLiteral("III")};
-    case 'A':
-    case 'B':
-    case 'C': return {QStringLiteral("&0ZH"), {}};
-    case 'O': return {QStringLiteral("^19O"), {}};
-    case 'S': return {QStringLiteral("^1LN"), {}};
-    case 'T': return {QStringLiteral("^1LT"), {}};
-    case 'U': return {QStringLiteral("^19U"), {}};
-    case 'V': return {QStringLiteral("&0Z1"), {}};
-    case 'X':
-    case 'Y':
-    case 'Z': return {QStringLiteral("&0ZG"), QString(c)};
-    case 'a':
-    case 'b':
-    case 'c': return {QStringLiteral("&0ZM"), QString(c)};
-    case 's': return {QStringLiteral("^1LA"), {}};
-    case 't': return {QStringLiteral("^1LB"), {}};
-    case 'x':
-    case 'y':
-    case 'z': return {QStringLiteral("&0ZL"), QString(c)};
-    default: return {};
-    }
-}
+constexpr Qualifier firstPlace[] = {
+    {'1', "", "I"},     {'2', "", "II"},    {'3', "", "III"},   {'A', "&0ZH", ""},  {'B', "&0ZH", ""},
+    {'C', "&0ZH", ""},  {'O', "^19O", ""},  {'S', "^1LN", ""},  {'T', "^1LT", ""},  {'U', "^19U", ""},
+    {'V', "&0Z1", ""},  {'X', "&0ZG", "X"}, {'Y', "&0ZG", "Y"}, {'Z', "&0ZG", "Z"}, {'a', "&0ZM", "a"},
+    {'b', "&0ZM", "b"}, {'c', "&0ZM", "c"}, {'s', "^1LA", ""},  {'t', "^1LB", ""},  {'x', "&0ZL", "x"},
+    {'y', "&0ZL", "y"}, {'z', "&0ZL", "z"}};
 
-// Follows the text of the first qualifier.
-Qualifier secondQualifier(QChar c)
-{
-    switch (c.unicode()) {
-    case '+': return {QStringLiteral("^143"), QStringLiteral("1 + 2")};
-    case '1': return {QStringLiteral("^143"), QStringLiteral("1")};
-    case '2': return {QStringLiteral("^143"), QStringLiteral("2")};
-    case 'h': return {QStringLiteral("&7ZH"), {}};
-    case 's':
-    case 't': return {QStringLiteral("&7ZT"), {}};
-    default: return {};
-    }
-}
+// Follows the text of the first place.
+constexpr Qualifier secondPlace[] = {{'+', "^143", "1 + 2"}, {'1', "^143", "1"}, {'2', "^143", "2"},
+                                     {'h', "&7ZH", ""},      {'s', "&7ZT", ""},  {'t', "&7ZT", ""}};
 
-void expandQualifier(const Qualifier& q, QString& out, bool before)
+// Any other character, a blank or a dash for instance, adds nothing.
+template <size_t N> void expandQualifier(const Qualifier (&table)[N], QChar c, QString& out, bool before)
 {
-    if (!q.token.isEmpty() || !q.suffix.isEmpty())
-        expand(q.token, q.suffix, out, before);
+    for (const Qualifier& q : table) {
+        if (c == QLatin1Char(q.character)) {
+            expand(QString::fromLatin1(q.token), QString::fromLatin1(q.suffix), out, before);
+            return;
+        }
+    }
 }
 
 } // namespace
@@ -135,9 +99,9 @@ QString captionText(const QString& field)
         return out;
     // The text of the third character stands in front of the base text, so the base text's own
     // leading blank puts two blanks between them.
-    expandQualifier(thirdQualifier(field.at(2)), out, true);
-    expandQualifier(firstQualifier(field.at(0)), out, false);
-    expandQualifier(secondQualifier(field.at(1)), out, false);
+    expandQualifier(thirdPlace, field.at(2), out, true);
+    expandQualifier(firstPlace, field.at(0), out, false);
+    expandQualifier(secondPlace, field.at(1), out, false);
     return out;
 }
 

@@ -1,11 +1,38 @@
 #pragma once
+// Helpers shared by the catalogue tests.
 
+#include "catalogue.h"
+
+#include <vkd_q.h>
+
+#include <QBuffer>
 #include <QDebug>
 #include <QFile>
 #include <QString>
 #include <QStringList>
 
 #include <vector>
+
+inline std::vector<GraphicalOutputRecord> parseText(const QByteArray& text)
+{
+    QBuffer buffer;
+    buffer.setData(text);
+    buffer.open(QIODevice::ReadOnly);
+    std::vector<GraphicalOutputRecord> records;
+    vkd::plib::widgetgraphicaloutput::parseCatalogue(buffer, records);
+    return records;
+}
+
+// Sets the language of the desktop for the lifetime of the object.
+class LanguageScope
+{
+public:
+    explicit LanguageScope(int language) : m_saved(vkd_lib_getvalue(102)) { vkd_lib_setvalue(102, language); }
+    ~LanguageScope() { vkd_lib_setvalue(102, m_saved); }
+
+private:
+    int m_saved;
+};
 
 // A line diff of two texts ("-" expected only, "+" actual only), for the message of a failed
 // comparison with a reference file.
@@ -19,8 +46,8 @@ inline QString lineDiff(const QString& expected, const QString& actual)
     std::vector<std::vector<int>> common(n + 1, std::vector<int>(m + 1, 0));
     for (int i = n - 1; i >= 0; --i)
         for (int j = m - 1; j >= 0; --j)
-            common[i][j] = a.at(i) == b.at(j) ? common[i + 1][j + 1] + 1
-                                              : std::max(common[i + 1][j], common[i][j + 1]);
+            common[i][j] =
+                a.at(i) == b.at(j) ? common[i + 1][j + 1] + 1 : std::max(common[i + 1][j], common[i][j + 1]);
     QString out;
     int i = 0;
     int j = 0;
@@ -51,6 +78,7 @@ inline bool matchesReference(const QString& text, const QString& fileName)
     const QString expected = QString::fromUtf8(reference.readAll());
     if (expected == text)
         return true;
-    qWarning().noquote() << QStringLiteral("differs from %1:\n%2").arg(reference.fileName(), lineDiff(expected, text));
+    qWarning().noquote()
+        << QStringLiteral("differs from %1:\n%2").arg(reference.fileName(), lineDiff(expected, text));
     return false;
 }
