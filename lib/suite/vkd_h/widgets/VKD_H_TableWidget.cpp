@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
 namespace {
@@ -114,6 +115,8 @@ int VKD_H_TableWidget::addNewRow(bool selectIt)
 
 void VKD_H_TableWidget::createEmptyItems(int row)
 {
+    // Empty cells are no change of the user's: itemChanged is for edits.
+    const QSignalBlocker blocker(this);
     for (int c = 0; c < columnCount(); ++c) {
         const VKD_H_TwHeaderItem* h = headerItem(c);
         setItem(row, c, h ? h->createEmptyItem() : new QTableWidgetItem);

@@ -22,6 +22,7 @@ public:
     int getColumnId(int column) const;
     // Appends one row with the empty items of each column and gives its number.
     virtual int addNewRow(bool selectIt);
+    // Gives each cell of the row the empty item of its column; emits no itemChanged.
     virtual void createEmptyItems(int row);
     void deleteSelectedRows();
     QTableWidgetItem* itemOnColId(int row, int id) const;

@@ -1,0 +1,390 @@
+#include "DesignParameter.h"
+
+#include "DesignParameterTable.h"
+#include "designrecord.h"
+#include "designstore.h"
+#include "projectentries.h"
+#include "rowtext.h"
+
+#include <VKD_H_TableWidgetBox.h>
+#include <VKD_H_TwHeaderItem.h>
+#include <VKD_H_ZOBDoc.h>
+#include <VKD_QT_Dialog.h>
+#include <VKD_QT_Layouts.h>
+#include <VKD_QT_MessageBox.h>
+#include <VKD_QT_PushButton.h>
+#include <VKD_QT_SignalBlocker.h>
+#include <VKD_QT_TableWidgetButton.h>
+#include <VKD_T_Help.h>
+#include <vkd_dbo.h>
+
+#include <QHeaderView>
+
+#include <algorithm>
+#include <list>
+
+using namespace vkd::plib::design;
+
+namespace {
+
+int indexOf(const VKD_H_ZOBDoc* doc)
+{
+    return doc ? doc->index() : -1;
+}
+
+bool isSummaryColumn(int id)
+{
+    return id == ColumnDirection || id == ColumnReinforcement || id == ColumnCrackControl;
+}
+
+} // namespace
+
+DesignParameter::DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* designDoc, QWidget* parent, bool flagA,
+                                 bool flagB)
+    : QWidget(parent), data(std::make_unique<DesignParameterData>())
+{
+    data->barData = &barTable;
+    data->flagB = flagB;
+    data->flagA = flagA;
+    data->doc = doc;
+    data->designDoc = designDoc;
+    barTable.load(indexOf(doc));
+    // The host dialog, if any, is needed to leave it for a group pick in the model and to come
+    // back.
+    for (QWidget* w = parentWidget(); w; w = w->parentWidget()) {
+        if (auto* dialog = qobject_cast<VKD_QT_Dialog*>(w)) {
+            data->dialog = dialog;
+            break;
+        }
+    }
+}
+
+DesignParameter::~DesignParameter()
+{
+    // The table is a child and is destroyed after this body: what it signals on its way out
+    // must not reach rows that are gone.
+    if (data->table)
+        data->table->disconnect(this);
+}
+
+bool DesignParameter::init()
+{
+    data->kindOfSystem = vkd::dbo::getKindOfSystem(indexOf(data->designDoc), nullptr);
+    buildTable();
+    editRow = -1;
+    editColumn = -1;
+    setMinimumWidth(890);
+    return true;
+}
+
+void DesignParameter::buildTable()
+{
+    auto* table = new DesignParameterTable(this);
+    data->table = table;
+    table->setContextmenueEnabled_new_del(false);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+    table->verticalHeader()->show();
+
+    std::list<ComboList> types;
+    for (int type = 0; type < kDesignTypeCount; ++type)
+        types.push_back({tr(designTypeName(type)), type, -99999});
+    const QString selection = tr("Selection");
+    const QString type = tr("Type");
+    const QString direction = tr("Direction and Distance");
+    const QString reinforcement = tr("Reinforcement");
+    const QString crack = tr("Crack Control");
+    table->setHorizontalHeaderItem(
+        ColumnSelection, new VKD_H_TwHeaderItem(ColumnSelection, selection, selection, true, Qt::AlignCenter));
+    table->setHorizontalHeaderItem(
+        ColumnType, new VKD_H_TwHeaderComboBoxItem(ColumnType, types, type, type, true, Qt::AlignCenter));
+    table->setHorizontalHeaderItem(
+        ColumnDirection, new VKD_H_TwHeaderItem(ColumnDirection, direction, direction, true, Qt::AlignCenter));
+    table->setHorizontalHeaderItem(ColumnReinforcement, new VKD_H_TwHeaderItem(ColumnReinforcement, reinforcement,
+                                                                               reinforcement, true, Qt::AlignCenter));
+    table->setHorizontalHeaderItem(
+        ColumnCrackControl, new VKD_H_TwHeaderItem(ColumnCrackControl, crack, crack, true, Qt::AlignCenter));
+    table->resizeColumnsToContents();
+    const int widths[] = {150, 150, 200, 120, 120};
+    for (int id = ColumnSelection; id <= ColumnCrackControl; ++id)
+        table->setColumnWidth(table->getColumnNumber(id), widths[id]);
+    // Every summary has two lines: directions over distances, upper side over lower side.
+    table->verticalHeader()->setDefaultSectionSize(2 * table->fontMetrics().lineSpacing() + 10);
+    // A host that sizes its dialog from the page shows all columns of the rows read.
+    table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContentsOnFirstShow);
+
+    auto* box = new VKD_H_TableWidgetBox(table, tr("Design parameter"), this);
+    box->createDefaultLayout(false, true);
+    box->addButton(VKD_H_TableWidgetBox::New, false);
+    box->addButton(VKD_H_TableWidgetBox::Delete, false);
+
+    auto* up = new VKD_QT_PushButton(tr("Up"), table, "btnUp");
+    connect(up, &QPushButton::clicked, this, &DesignParameter::slot_up);
+    box->addWidget(up);
+    auto* down = new VKD_QT_PushButton(tr("Down"), table, "btnDown");
+    connect(down, &QPushButton::clicked, this, &DesignParameter::slot_down);
+    box->addWidget(down);
+
+    connect(box->getButton(VKD_H_TableWidgetBox::New), &QPushButton::clicked, this,
+            &DesignParameter::slot_newRowClicked);
+    connect(box->getButton(VKD_H_TableWidgetBox::Delete), &QPushButton::clicked, this,
+            &DesignParameter::slot_deleteClicked);
+
+    auto* layout = new VKD_QT_VBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(box);
+
+    connect(table, &QTableWidget::itemChanged, this, &DesignParameter::slot_typComboChanged);
+    connect(table, &QTableWidget::itemSelectionChanged, this, &DesignParameter::slot_editCellWidget);
+    connect(table, &DesignParameterTable::signal_newClicked, this, &DesignParameter::slot_newRowClicked);
+    connect(table, &DesignParameterTable::signal_delClicked, this, &DesignParameter::slot_deleteClicked);
+}
+
+void DesignParameter::readZob()
+{
+    readRowsFromZob(*data);
+    refreshRows(-1);
+}
+
+void DesignParameter::writeToZob()
+{
+    writeRowsToZob(*data, converted);
+}
+
+void DesignParameter::getEntrys(VKD_H_ProjectDialogPage& page)
+{
+    readRowsFromZob(*data);
+    readRowsFromEntries(*data, page);
+    refreshRows(-1);
+    data->entriesLoaded = true;
+}
+
+void DesignParameter::setEntrys(VKD_H_ProjectDialogPage& page)
+{
+    // The entries are written from the rows in the stored form, which the first writer makes.
+    writeRowsToZob(*data, converted);
+    writeRowsToEntries(*data, page);
+}
+
+bool DesignParameter::checkVals()
+{
+    // Rows without groups are kept by the project page, if there is one.
+    if (data->entriesLoaded)
+        return true;
+    const bool allNamed = std::all_of(data->rows.begin(), data->rows.end(),
+                                      [](const DesignParameterRow& row) { return !row.groups.empty(); });
+    if (allNamed)
+        return true;
+    return VKD_QT_MessageBox::warning(this, tr("Warning"), tr("No groups selected.\nPossible loss of data!"),
+                                      QMessageBox::Yes, QMessageBox::No, 0) != QMessageBox::No;
+}
+
+void DesignParameter::help_clicked()
+{
+    VKD_T_Help::show(this, "MERDAN", "PARA");
+}
+
+bool DesignParameter::isRowNumber(int number) const
+{
+    return number >= 0 && size_t(number) < data->rows.size();
+}
+
+DesignParameterRow& DesignParameter::rowAt(int number)
+{
+    DesignParameterRow& row = data->rows[size_t(number)];
+    std::sort(row.groups.begin(), row.groups.end());
+    return row;
+}
+
+void DesignParameter::drawRow(const DesignParameterRow& row, int number, bool isNew)
+{
+    DesignParameterTable* table = data->table;
+    VKD_QT_SignalBlocker blocker(table);
+    if (isNew)
+        table->createEmptyItems(number);
+    for (int column = ColumnSelection; column <= ColumnCrackControl; ++column) {
+        QTableWidgetItem* item = table->itemOnColId(number, column);
+        if (!item)
+            continue;
+        item->setText(rowText(row, column));
+        item->setTextAlignment(Qt::AlignCenter);
+        if (column != ColumnType)
+            item->setFlags(item->flags() & ~Qt::ItemIsEditable);
+    }
+}
+
+void DesignParameter::refreshRows(int number)
+{
+    DesignParameterTable* table = data->table;
+    if (!table)
+        return;
+    if (number != -1) {
+        if (isRowNumber(number) && number < table->rowCount()) {
+            drawRow(data->rows[size_t(number)], number, false);
+            widenColumns();
+        }
+        return;
+    }
+    for (size_t i = 0; i < data->rows.size(); ++i) {
+        table->addNewRow(false);
+        drawRow(data->rows[i], int(i), true);
+    }
+    widenColumns();
+    emit signal_rowCountChanged(table->rowCount());
+}
+
+void DesignParameter::widenColumns()
+{
+    // A summary is read as a whole or not at all, so a column grows with its texts. It never
+    // shrinks below what it has (the user may have widened it), nor grows past a width at
+    // which a long list of groups would push the other columns out of sight.
+    constexpr int widest = 480;
+    DesignParameterTable* table = data->table;
+    for (int column = 0; column < table->columnCount(); ++column) {
+        const int width = table->columnWidth(column);
+        if (width >= widest)
+            continue;
+        table->resizeColumnToContents(column);
+        table->setColumnWidth(column, qBound(width, table->columnWidth(column), widest));
+    }
+    // Lays out the headers now, so that the size the table asks for counts the row numbers too.
+    table->doItemsLayout();
+}
+
+void DesignParameter::swapRows(int a, int b)
+{
+    const DesignParameterRow copy = data->rows[size_t(a)];
+    data->rows[size_t(a)] = data->rows[size_t(b)];
+    data->rows[size_t(b)] = copy;
+}
+
+void DesignParameter::slot_typComboChanged(QTableWidgetItem* item)
+{
+    if (!item || !item->tableWidget() || item->column() != ColumnType)
+        return;
+    DesignParameterTable* table = data->table;
+    const int row = item->row();
+    auto* combo = dynamic_cast<VKD_H_TwSimpleComboBoxItem*>(table->itemOnColId(row, ColumnType));
+    if (!combo || !isRowNumber(row))
+        return;
+    VKD_QT_SignalBlocker blocker(table);
+    // Only the type changes: values of a third layer stay in the record when the type goes to
+    // two layers, and come back with it.
+    rowAt(row).record.type = combo->getCurrentId();
+    refreshRows(row);
+}
+
+void DesignParameter::slot_newRowClicked()
+{
+    DesignParameterTable* table = data->table;
+    const int target = table->rowCount() + 1;
+    table->addNewRow(false);
+    while (table->rowCount() > target)
+        table->removeRow(table->rowCount() - 1);
+    const DesignParameterRow& row = addDefaultRow(*data);
+    drawRow(row, table->rowCount() - 1, true);
+    widenColumns();
+    emit signal_rowCountChanged(table->rowCount());
+}
+
+void DesignParameter::slot_deleteClicked()
+{
+    DesignParameterTable* table = data->table;
+    // The row of the remaining groups stays; a selection that holds it deletes nothing at all.
+    if (table->isRowSelected(0))
+        return;
+    const std::set<int> selected = table->getSelectetRows();
+    table->deleteSelectedRows();
+    for (auto it = selected.rbegin(); it != selected.rend(); ++it) {
+        if (isRowNumber(*it))
+            data->rows.erase(data->rows.begin() + *it);
+    }
+    emit signal_rowCountChanged(table->rowCount());
+}
+
+void DesignParameter::slot_up()
+{
+    DesignParameterTable* table = data->table;
+    const int r = table->currentRow();
+    // Row 0 belongs to the remaining groups: nothing moves onto it.
+    if (r <= 1 || !isRowNumber(r))
+        return;
+    swapRows(r, r - 1);
+    refreshRows(r);
+    refreshRows(r - 1);
+    table->setCurrentCell(r - 1, table->currentColumn());
+}
+
+void DesignParameter::slot_down()
+{
+    DesignParameterTable* table = data->table;
+    const int r = table->currentRow();
+    if (r >= table->rowCount() - 1 || r <= 0 || !isRowNumber(r + 1))
+        return;
+    swapRows(r, r + 1);
+    refreshRows(r);
+    refreshRows(r + 1);
+    table->setCurrentCell(r + 1, table->currentColumn());
+}
+
+void DesignParameter::slot_editCellWidget()
+{
+    DesignParameterTable* table = data->table;
+    const int row = table->currentRow();
+    const int col = table->currentColumn();
+    const int id = col < 0 ? -1 : table->getColumnId(col);
+
+    // The groups of row 0 are not edited; an editor open elsewhere stays open.
+    if (row == 0 && col == 0)
+        return;
+
+    if (editColumn >= 0 && isSummaryColumn(table->getColumnId(editColumn)))
+        table->setCellWidget(editRow, editColumn, nullptr);
+
+    // Selecting the cell of the open editor again closes it and opens none.
+    if (row == editRow && col == editColumn) {
+        editRow = -1;
+        editColumn = -1;
+        return;
+    }
+
+    if (QTableWidgetItem* item = table->item(row, col)) {
+        if (isSummaryColumn(id)) {
+            // A row without design has no values to edit. The old cell stays recorded.
+            if (!isRowNumber(row) || data->rows[size_t(row)].record.type == 0)
+                return;
+            auto* button = new VKD_QT_TableWidgetButton(table, item,
+                                                        id == ColumnDirection ? VKD_QT_TableWidgetButton::EditText
+                                                                              : VKD_QT_TableWidgetButton::TextButton);
+            table->setCellWidget(row, col, button);
+            if (id == ColumnDirection)
+                connect(button, &VKD_QT_TableWidgetButton::clicked, this, &DesignParameter::slot_editButtonClicked);
+            else if (id == ColumnReinforcement)
+                connect(button, &VKD_QT_TableWidgetButton::clicked, this,
+                        &DesignParameter::slot_calcReinforcementButtonClicked);
+            else
+                connect(button, &VKD_QT_TableWidgetButton::clicked, this, &DesignParameter::slot_calcCrackButtonClicked);
+        }
+    }
+    editRow = row;
+    editColumn = col;
+}
+
+// The editors behind the three summary buttons and the group editor of the first column are
+// dialogs of their own that this page does not have yet: until then these slots leave the row
+// as it is.
+void DesignParameter::slot_editButtonClicked() {}
+
+void DesignParameter::slot_calcReinforcementButtonClicked() {}
+
+void DesignParameter::slot_calcCrackButtonClicked() {}
+
+void DesignParameter::slot_openGroups() {}
+
+void DesignParameter::slot_openSekGroups() {}
+
+void DesignParameter::slot_selectionComboChanged(QString) {}
+
+void DesignParameter::slot_onReopenGroups() {}
+
+// The secondary group dialog has no detour out of the host dialog, so nothing comes back here.
+void DesignParameter::slot_onReopenGroupsSecondary() {}
