@@ -1,0 +1,126 @@
+#include "scriptlines.h"
+
+namespace vkd::plib::widgetgraphicaloutput {
+
+ScriptContext::ScriptContext(bool english, int progname, std::function<int()> kindOfSystem)
+    : viewWord(english ? QStringLiteral("VIEW ") : QStringLiteral("BEOB "))
+    , lcWord(english ? QStringLiteral("LC ") : QStringLiteral("LF "))
+    , designWord(english ? QStringLiteral(" DESI ") : QStringLiteral(" BEME "))
+    , andWord(english ? QStringLiteral(" ; AND ") : QStringLiteral(" ; UND "))
+    , firstColour(english ? QStringLiteral("COLO C14 -1 ; ") : QStringLiteral("FARB F14 -1 ; "))
+    , secondColour(english ? QStringLiteral("COLO STAN ; COLO C13 -1 ; ")
+                           : QStringLiteral("FARB STAN ; FARB F13 -1 ; "))
+    , colourEnd(english ? QStringLiteral(" ; COLO STAN") : QStringLiteral(" ; FARB STAN"))
+    , english(english)
+    , progname(progname)
+    , m_askKindOfSystem(std::move(kindOfSystem))
+{
+}
+
+// The model does not change while the lines are collected, so one answer serves all plots.
+int ScriptContext::kindOfSystem()
+{
+    if (!m_kindKnown) {
+        m_kindOfSystem = m_askKindOfSystem ? m_askKindOfSystem() : 0;
+        m_kindKnown = true;
+    }
+    return m_kindOfSystem;
+}
+
+namespace {
+
+constexpr int splitPage = 122;
+
+QString viewOf(ScriptContext& context, int viewKind)
+{
+    switch (viewKind) {
+    case 1:
+        return context.kindOfSystem() == 0 ? QStringLiteral("EG3") : QStringLiteral("EGX");
+    case 2:
+        return QStringLiteral("EGX");
+    case 3:
+        return QStringLiteral("EG3");
+    default:
+        return QString();
+    }
+}
+
+QString caseLine(const ScriptContext& context, int number)
+{
+    const QString n = QString::number(number);
+    return context.lcWord + n + context.designWord + n;
+}
+
+} // namespace
+
+void appendScriptLines(ScriptContext& context, const ScriptEntry& entry, std::vector<QString>& lines)
+{
+    QString script = context.english ? entry.record.scriptEnglish : entry.record.scriptGerman;
+    // A null and an empty view are equal here: a plot without view at the start adds no line.
+    const QString view = viewOf(context, entry.record.viewKind);
+    if (view != context.lastView) {
+        context.lastView = view;
+        lines.push_back(context.viewWord + view);
+    }
+    const int number = entry.number;
+    if (number < 0)
+        return;
+    if (number == 0) {
+        lines.push_back(script);
+        return;
+    }
+    if (context.progname == splitPage) {
+        // The split page makes one sheet per load case; the case goes into the script text.
+        script.replace(QLatin1String("$(LFNR)"), QString::number(number + 1000000));
+        lines.push_back(script);
+        return;
+    }
+    if (number != context.lastCase) {
+        context.lastCase = number;
+        lines.push_back(caseLine(context, number));
+    }
+    int second = 0;
+    if (!secondCase(entry.label, &second)) {
+        lines.push_back(script);
+        return;
+    }
+    // The plot of the first case and that of the second one over it, in two colours.
+    QString unit = QStringLiteral(" UNIT LAST");
+    if (entry.captionRecord) {
+        const QString& captionScript =
+            context.english ? entry.captionRecord->scriptEnglish : entry.captionRecord->scriptGerman;
+        if (captionScript.contains(QLatin1String("UNIT")))
+            unit.clear();
+    }
+    lines.push_back(context.firstColour + script + context.andWord);
+    lines.push_back(caseLine(context, second));
+    lines.push_back(context.secondColour + script + unit + context.colourEnd);
+    context.lastCase = second;
+}
+
+bool secondCase(const QString& label, int* second)
+{
+    const int colon = label.indexOf(QLatin1Char(':'));
+    const QStringRef head = colon >= 0 ? label.leftRef(colon) : label.leftRef(5);
+    const int plus = head.indexOf(QLatin1Char('+'));
+    if (plus < 0)
+        return false;
+    bool ok = false;
+    const int value = head.mid(plus + 1).toInt(&ok, 10);
+    *second = ok ? value : -1;
+    return true;
+}
+
+QString itemId(const GraphicalOutputRecord& record, int level)
+{
+    switch (level) {
+    case 0:
+        return record.id1.trimmed();
+    case 1:
+        return (record.id1 + record.id2).trimmed();
+    default:
+        return (record.id1 + record.id2 + record.id3).trimmed();
+    }
+}
+
+} // namespace vkd::plib::widgetgraphicaloutput

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "GraphicalOutputRecord.h"
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+namespace vkd::plib::widgetgraphicaloutput {
+
+// The working record of one collection of script lines: keywords of the chosen language, and
+// the last view and load case written, so that neither is repeated.
+struct ScriptContext
+{
+    // kindOfSystem gives the kind of system of the model; it is asked once, at the first plot
+    // whose view depends on it.
+    ScriptContext(bool english, int progname, std::function<int()> kindOfSystem);
+
+    int lastCase = -1;
+    QString lastView;
+    QString viewWord;
+    QString lcWord;
+    QString designWord;
+    QString andWord;
+    QString firstColour;
+    QString secondColour;
+    QString colourEnd;
+
+    bool english;
+    int progname;
+    int kindOfSystem();
+
+private:
+    std::function<int()> m_askKindOfSystem;
+    int m_kindOfSystem = 0;
+    bool m_kindKnown = false;
+};
+
+// A checked plot or load case row, as the script sees it.
+struct ScriptEntry
+{
+    const GraphicalOutputRecord& record;
+    // 0 for a plot without load cases, the load case of a row.
+    int number;
+    // The text of the row, which may ask for a second load case.
+    const QString& label;
+    // The record of the caption above the plot; null if there is none.
+    const GraphicalOutputRecord* captionRecord;
+};
+
+// Appends the lines of one entry: its view line if the view changed, its load case line if the
+// case changed, and the script text of its record, twice in two colours for a row "a+b".
+void appendScriptLines(ScriptContext& context, const ScriptEntry& entry, std::vector<QString>& lines);
+
+// The second load case of a row label "a+b: title": b, -1 if b is no number, and false if the
+// label asks for none. Only the text before the first ":" counts, or its first five characters.
+bool secondCase(const QString& label, int* second);
+
+// The identifier of a tree item of the given level made from its record, the same in every
+// language: the caption identifiers of its level and those above, trimmed.
+QString itemId(const GraphicalOutputRecord& record, int level);
+
+} // namespace vkd::plib::widgetgraphicaloutput
