@@ -64,9 +64,12 @@ void TestTableWidget::columnIds()
 void TestTableWidget::newRowsGetTheirColumnsItems()
 {
     QScopedPointer<VKD_H_TableWidget> t(makeTable());
+    QSignalSpy changed(t.data(), &QTableWidget::itemChanged);
     QCOMPARE(t->addNewRow(false), 0);
     QCOMPARE(t->addNewRow(false), 1);
     QCOMPARE(t->rowCount(), 2);
+    // Empty cells are no edit: owners that follow itemChanged must not take them for one.
+    QCOMPARE(changed.count(), 0);
     auto* combo = dynamic_cast<VKD_H_TwSimpleComboBoxItem*>(t->itemOnColId(1, 11));
     QVERIFY(combo);
     QCOMPARE(combo->getCurrentId(), 0);
