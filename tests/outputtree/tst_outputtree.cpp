@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <QTranslator>
 #include <QtTest>
 
 using namespace vkd::plib::widgetgraphicaloutput;
@@ -106,6 +107,7 @@ private slots:
     void contextMenuShows();
     void icons();
     void dump();
+    void germanTexts();
 };
 
 void TestOutputTree::shapes_data()
@@ -403,6 +405,24 @@ void TestOutputTree::dump()
     GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
     tree.setUsedNumbersAndNames(threeRows());
     QVERIFY(matchesReference(tree.dumpText(), QStringLiteral("dump.txt")));
+}
+
+void TestOutputTree::germanTexts()
+{
+    QTranslator translator;
+    QVERIFY(translator.load(QStringLiteral(TRANSLATIONS)));
+    QCoreApplication::installTranslator(&translator);
+    installCatalogue(QByteArray());
+    VKD_H_PluginParameter parameter;
+    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(shape(tree), QStringLiteral("Keine Einträge in der Datenbank!"));
+    QStringList texts;
+    const QList<QAction*> actions = tree.popupHandler().menu()->actions();
+    for (const QAction* action : actions)
+        if (!action->isSeparator())
+            texts << action->text();
+    QCOMPARE(texts.mid(2), (QStringList{"Bilder aufklappen", "Lastfälle aufklappen", "Lastfälle zuklappen"}));
 }
 
 QTEST_MAIN(TestOutputTree)

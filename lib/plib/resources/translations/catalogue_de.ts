@@ -19,5 +19,25 @@
         <source>Failed to open file %1</source>
         <translation>Die Datei %1 konnte nicht geöffnet werden</translation>
     </message>
+    <message>
+        <source>No Entries in database!</source>
+        <translation>Keine Einträge in der Datenbank!</translation>
+    </message>
+    <message>
+        <source>Expand plots</source>
+        <translation>Bilder aufklappen</translation>
+    </message>
+    <message>
+        <source>Expand loadcases</source>
+        <translation>Lastfälle aufklappen</translation>
+    </message>
+    <message>
+        <source>Close loadcases</source>
+        <translation>Lastfälle zuklappen</translation>
+    </message>
+    <message>
+        <source>Close all entries</source>
+        <translation>Alle Einträge zuklappen</translation>
+    </message>
 </context>
 </TS>
