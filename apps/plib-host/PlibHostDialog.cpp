@@ -21,8 +21,7 @@ QString byLanguage(const char* german, const char* english)
 
 } // namespace
 
-PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, QWidget* parent)
-    : VKD_QT_TabDialog(parent, "plibHost")
+PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, QWidget* parent) : VKD_QT_TabDialog(parent, "plibHost")
 {
     setWindowTitle(QStringLiteral("plib-host - %1").arg(QFileInfo(project->path()).fileName()));
     // The page is made a child of the dialog from the start, so that it finds the dialog it

@@ -12,7 +12,8 @@
 #include <QTimer>
 #include <QtTest>
 
-inline void clickCell(QTableWidget* table, int row, int column, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+inline void clickCell(QTableWidget* table, int row, int column,
+                      Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     const QRect rect = table->visualRect(table->model()->index(row, column));
     QTest::mouseClick(table->viewport(), Qt::LeftButton, modifiers, rect.center());

@@ -1,7 +1,7 @@
 // The design parameter page driven as a host and a user drive it, offscreen, on temporary
 // projects.
-#include "reference.h"
 #include "pagedriver.h"
+#include "reference.h"
 
 #include "DesignParameter.h"
 #include "DesignParameterTable.h"
@@ -86,9 +86,14 @@ QStringList methodsOf(const QMetaObject& meta)
     QStringList out;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
         const QMetaMethod m = meta.method(i);
-        const char* access = m.access() == QMetaMethod::Public ? "public" : m.access() == QMetaMethod::Protected ? "protected" : "private";
-        const char* kind = m.methodType() == QMetaMethod::Signal ? "signal" : m.methodType() == QMetaMethod::Slot ? "slot" : "method";
-        out << QStringLiteral("%1 %2 %3").arg(QLatin1String(access), QLatin1String(kind), QLatin1String(m.methodSignature()));
+        const char* access = m.access() == QMetaMethod::Public      ? "public"
+                             : m.access() == QMetaMethod::Protected ? "protected"
+                                                                    : "private";
+        const char* kind = m.methodType() == QMetaMethod::Signal ? "signal"
+                           : m.methodType() == QMetaMethod::Slot ? "slot"
+                                                                 : "method";
+        out << QStringLiteral("%1 %2 %3")
+                   .arg(QLatin1String(access), QLatin1String(kind), QLatin1String(m.methodSignature()));
     }
     return out;
 }
@@ -115,6 +120,7 @@ private slots:
     void newRows();
     void deleteRows_data();
     void deleteRows();
+    void deleteTheRowOfTheEditor();
     void upAndDown_data();
     void upAndDown();
     void rowCountSignal();
@@ -165,7 +171,8 @@ void TestDesignPage::init()
 
 std::unique_ptr<VKD_P_DesignParameter> TestDesignPage::openPage(Project& project, bool show)
 {
-    auto page = std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(), nullptr, false, false);
+    auto page =
+        std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(), nullptr, false, false);
     page->init();
     page->readZob();
     if (show) {
@@ -205,7 +212,8 @@ void TestDesignPage::metaObjectOrder_data()
     QTest::addColumn<const QMetaObject*>("meta");
     QTest::addColumn<QStringList>("methods");
     QTest::newRow("exported shell") << &VKD_P_DesignParameter::staticMetaObject
-                                    << QStringList{"public signal signal_rowCountChanged(int)", "public slot showHelp()"};
+                                    << QStringList{"public signal signal_rowCountChanged(int)",
+                                                   "public slot showHelp()"};
     QTest::newRow("inner page") << &DesignParameter::staticMetaObject
                                 << QStringList{"public signal signal_rowCountChanged(int)",
                                                "public slot help_clicked()",
@@ -224,7 +232,8 @@ void TestDesignPage::metaObjectOrder_data()
                                                "private slot slot_onReopenGroups()",
                                                "private slot slot_onReopenGroupsSecondary()"};
     QTest::newRow("table") << &DesignParameterTable::staticMetaObject
-                           << QStringList{"public signal signal_newClicked()", "public signal signal_delClicked()"};
+                           << QStringList{"public signal signal_newClicked()",
+                                          "public signal signal_delClicked()"};
 }
 
 void TestDesignPage::metaObjectOrder()
@@ -252,7 +261,8 @@ void TestDesignPage::tableLayout()
     QVERIFY(!table->verticalHeader()->isHidden());
     QCOMPARE(table->horizontalHeader()->sectionResizeMode(0), QHeaderView::Interactive);
 
-    const QStringList headers{"Selection", "Type", "Direction and Distance", "Reinforcement", "Crack Control"};
+    const QStringList headers{"Selection", "Type", "Direction and Distance", "Reinforcement",
+                              "Crack Control"};
     const int widths[] = {150, 150, 200, 120, 120};
     for (int c = 0; c < 5; ++c) {
         auto* header = dynamic_cast<VKD_H_TwHeaderItem*>(table->horizontalHeaderItem(c));
@@ -269,8 +279,9 @@ void TestDesignPage::tableLayout()
     QStringList entries;
     for (const ComboList& e : typeHeader->entries())
         entries << QStringLiteral("%1=%2 (%3)").arg(e.id).arg(e.text).arg(e.extra);
-    QCOMPARE(entries, (QStringList{"0=No design (-99999)", "1=Two Layers (orthogonal) (-99999)", "2=Two Layers (-99999)",
-                                   "3=Three Layers (-99999)", "4=Circular (-99999)"}));
+    QCOMPARE(entries,
+             (QStringList{"0=No design (-99999)", "1=Two Layers (orthogonal) (-99999)",
+                          "2=Two Layers (-99999)", "3=Three Layers (-99999)", "4=Circular (-99999)"}));
 
     // The framework's own New and Delete are off: the page's stand in the table's menu.
     QScopedPointer<VKD_QT_Menu> menu(table->getContextMenu());
@@ -458,6 +469,39 @@ void TestDesignPage::deleteRows()
     }
 }
 
+void TestDesignPage::deleteTheRowOfTheEditor()
+{
+    Project project(true);
+    auto page = openPage(project);
+    DesignParameterTable* table = tableOf(page.get());
+    // A row of no design between two rows to delete, the editor open on the lower one.
+    button(page.get(), "btnNew")->click();
+    clickCell(table, 4, 1);
+    button(page.get(), "btnUp")->click();
+    QCOMPARE(columnTexts(table, 0), (QStringList{"Remaining Groups", "1;2", "3", "None", "4"}));
+    clickCell(table, 2, 2);
+    clickCell(table, 4, 2, Qt::ControlModifier);
+    QVERIFY(table->cellWidget(4, 2));
+    QTest::mouseClick(button(page.get(), "btnDelete"), Qt::LeftButton);
+    QCOMPARE(columnTexts(table, 0), (QStringList{"Remaining Groups", "1;2", "None"}));
+    QVERIFY(tableShowsRows(page.get()));
+    // The editor went with its row. Where the selection landed, a button stands only on a
+    // row with a design, and it is the one the page knows of.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const QList<VKD_QT_TableWidgetButton*> buttons = table->findChildren<VKD_QT_TableWidgetButton*>();
+    QVERIFY(buttons.size() <= 1);
+    for (VKD_QT_TableWidgetButton* b : buttons) {
+        const QPoint cell = editCell(page.get());
+        QCOMPARE(table->cellWidget(cell.y(), cell.x()), b);
+        QVERIFY(dataOf(page.get()).rows[size_t(cell.y())].record.type != 0);
+    }
+    clickCell(table, 1, 4);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(table->findChildren<VKD_QT_TableWidgetButton*>().size(), 1);
+    QVERIFY(qobject_cast<VKD_QT_TableWidgetButton*>(table->cellWidget(1, 4)));
+    QCOMPARE(editCell(page.get()), QPoint(4, 1));
+}
+
 void TestDesignPage::upAndDown_data()
 {
     QTest::addColumn<QString>("button");
@@ -509,7 +553,8 @@ void TestDesignPage::upAndDown()
 void TestDesignPage::rowCountSignal()
 {
     Project project;
-    auto page = std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(), nullptr, false, false);
+    auto page =
+        std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(), nullptr, false, false);
     QSignalSpy shell(page.get(), &VKD_P_DesignParameter::signal_rowCountChanged);
     page->init();
     QCOMPARE(shell.count(), 0);
@@ -613,18 +658,20 @@ void TestDesignPage::cellEditor_data()
     // Clicks on cells of the demo project with a fifth row of no design, each followed by the
     // cell that counts as the editor's and the cell that shows a button, if any.
     QTest::addColumn<QStringList>("steps");
-    QTest::newRow("a button per summary column") << QStringList{
-        "click 1,2 => edit 1,2 button 1,2 mode 0", "click 1,3 => edit 1,3 button 1,3 mode 2",
-        "click 2,4 => edit 2,4 button 2,4 mode 2", "click 2,1 => edit 2,1 none"};
-    QTest::newRow("a second selection closes") << QStringList{
-        "click 2,2 => edit 2,2 button 2,2 mode 0", "click 0,0 => edit 2,2 button 2,2 mode 0",
-        "click 2,2 => edit -1,-1 none", "click 0,0 => edit -1,-1 none", "click 2,2 => edit 2,2 button 2,2 mode 0"};
-    QTest::newRow("a row of no design keeps the old cell") << QStringList{
-        "click 2,3 => edit 2,3 button 2,3 mode 2", "click 4,3 => edit 2,3 none", "click 2,3 => edit -1,-1 none",
-        "click 4,2 => edit -1,-1 none", "click 2,3 => edit 2,3 button 2,3 mode 2"};
-    QTest::newRow("the type cell of a row of no design") << QStringList{
-        "click 3,4 => edit 3,4 button 3,4 mode 2", "click 4,1 => edit 4,1 none",
-        "click 3,4 => edit 3,4 button 3,4 mode 2"};
+    QTest::newRow("a button per summary column")
+        << QStringList{"click 1,2 => edit 1,2 button 1,2 mode 0", "click 1,3 => edit 1,3 button 1,3 mode 2",
+                       "click 2,4 => edit 2,4 button 2,4 mode 2", "click 2,1 => edit 2,1 none"};
+    QTest::newRow("a second selection closes")
+        << QStringList{"click 2,2 => edit 2,2 button 2,2 mode 0", "click 0,0 => edit 2,2 button 2,2 mode 0",
+                       "click 2,2 => edit -1,-1 none", "click 0,0 => edit -1,-1 none",
+                       "click 2,2 => edit 2,2 button 2,2 mode 0"};
+    QTest::newRow("a row of no design keeps the old cell")
+        << QStringList{"click 2,3 => edit 2,3 button 2,3 mode 2", "click 4,3 => edit 2,3 none",
+                       "click 2,3 => edit -1,-1 none", "click 4,2 => edit -1,-1 none",
+                       "click 2,3 => edit 2,3 button 2,3 mode 2"};
+    QTest::newRow("the type cell of a row of no design")
+        << QStringList{"click 3,4 => edit 3,4 button 3,4 mode 2", "click 4,1 => edit 4,1 none",
+                       "click 3,4 => edit 3,4 button 3,4 mode 2"};
 }
 
 void TestDesignPage::cellEditor()
@@ -670,10 +717,14 @@ void TestDesignPage::checkVals_data()
     QTest::addColumn<int>("answer");
     QTest::addColumn<bool>("asks");
     QTest::addColumn<bool>("result");
-    QTest::newRow("read from the project, every row with groups") << false << false << int(QMessageBox::No) << false << true;
-    QTest::newRow("read from the project, a row without groups, Yes") << false << true << int(QMessageBox::Yes) << true << true;
-    QTest::newRow("read from the project, a row without groups, No") << false << true << int(QMessageBox::No) << true << false;
-    QTest::newRow("read with the project page, a row without groups") << true << true << int(QMessageBox::No) << false << true;
+    QTest::newRow("read from the project, every row with groups")
+        << false << false << int(QMessageBox::No) << false << true;
+    QTest::newRow("read from the project, a row without groups, Yes")
+        << false << true << int(QMessageBox::Yes) << true << true;
+    QTest::newRow("read from the project, a row without groups, No")
+        << false << true << int(QMessageBox::No) << true << false;
+    QTest::newRow("read with the project page, a row without groups")
+        << true << true << int(QMessageBox::No) << false << true;
 }
 
 void TestDesignPage::checkVals()
@@ -685,7 +736,8 @@ void TestDesignPage::checkVals()
     QFETCH(bool, result);
     Project project(true);
     VKD_H_ProjectDialogPage projectPage;
-    auto page = std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(), nullptr, false, false);
+    auto page =
+        std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(), nullptr, false, false);
     page->init();
     if (entries)
         page->getEntrys(projectPage);
@@ -715,7 +767,8 @@ void TestDesignPage::entriesRoundTrip()
     projectPage.setEntry(QStringLiteral("MerPara3"), QStringLiteral("left over"));
     QString before;
     {
-        auto page = std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(), nullptr, false, false);
+        auto page = std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(), nullptr,
+                                                            false, false);
         page->init();
         page->getEntrys(projectPage);
         page->show();
@@ -740,7 +793,8 @@ void TestDesignPage::entriesRoundTrip()
     // Rows without groups are not records of the project.
     QCOMPARE(vkd_zob_count(project.index(), 200, 6), 5);
 
-    auto again = std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(), nullptr, false, false);
+    auto again =
+        std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(), nullptr, false, false);
     again->init();
     again->getEntrys(projectPage);
     // The entries carry no minimum and maximum reinforcement: those of the rows from the
@@ -748,8 +802,9 @@ void TestDesignPage::entriesRoundTrip()
     const int fromEntries = before.indexOf(QStringLiteral("row 4\n"));
     QVERIFY(fromEntries > 0);
     before = before.left(fromEntries) +
-             before.mid(fromEntries).replace(QStringLiteral("Ø10 ; -  ; -  / Ø10 ; -  ; - \n"),
-                                             QStringLiteral("Ø10 ;0.00 cm²/m ;0.00 cm²/m / Ø10 ;0.00 cm²/m ;0.00 cm²/m\n"));
+             before.mid(fromEntries)
+                 .replace(QStringLiteral("Ø10 ; -  ; -  / Ø10 ; -  ; - \n"),
+                          QStringLiteral("Ø10 ;0.00 cm²/m ;0.00 cm²/m / Ø10 ;0.00 cm²/m ;0.00 cm²/m\n"));
     const QString after = tableText(tableOf(again.get()));
     QVERIFY2(after == before, qPrintable(lineDifference(before, after)));
     QVERIFY(again->checkVals());
@@ -760,8 +815,10 @@ void TestDesignPage::help_data()
     QTest::addColumn<int>("language");
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("heading");
-    QTest::newRow("English") << 1 << "merdan_para_en.html" << "Design parameters";
-    QTest::newRow("German") << 0 << "merdan_para_de.html" << "Bemessungsparameter";
+    QTest::newRow("English") << 1 << "merdan_para_en.html"
+                             << "Design parameters";
+    QTest::newRow("German") << 0 << "merdan_para_de.html"
+                            << "Bemessungsparameter";
 }
 
 void TestDesignPage::help()

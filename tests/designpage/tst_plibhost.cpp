@@ -148,7 +148,8 @@ void TestPlibHost::rowsWithoutGroups()
     QVERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     // The row without groups is lost; the other rows are written.
-    QCOMPARE(typesByGroup(project.doc->index()), (std::map<int, int>{{-1, 1}, {1, 4}, {2, 4}, {3, 2}, {4, 3}}));
+    QCOMPARE(typesByGroup(project.doc->index()),
+             (std::map<int, int>{{-1, 1}, {1, 4}, {2, 4}, {3, 2}, {4, 3}}));
 }
 
 void TestPlibHost::screenshot()
@@ -157,7 +158,8 @@ void TestPlibHost::screenshot()
     const QByteArray before = designRecords(project.doc->index());
     const QString png = project.dir.filePath(QStringLiteral("host.png"));
     QString output;
-    QCOMPARE(runHost({QStringLiteral("--lang"), QStringLiteral("de"), QStringLiteral("--screenshot"), png, project.path()},
+    QCOMPARE(runHost({QStringLiteral("--lang"), QStringLiteral("de"), QStringLiteral("--screenshot"), png,
+                      project.path()},
                      &output),
              0);
     const QImage picture(png);
@@ -176,7 +178,8 @@ void TestPlibHost::refusedCommandLines_data()
     QTest::newRow("screenshot without a file") << QStringList{"x.vkd", "--screenshot"} << 2;
     QTest::newRow("two projects") << QStringList{"a.vkd", "b.vkd"} << 2;
     QTest::newRow("unknown option") << QStringList{"--verbose"} << 2;
-    QTest::newRow("project that does not exist") << QStringList{"--screenshot", "x.png", "/nonexistent/x.vkd"} << 1;
+    QTest::newRow("project that does not exist")
+        << QStringList{"--screenshot", "x.png", "/nonexistent/x.vkd"} << 1;
 }
 
 void TestPlibHost::refusedCommandLines()
@@ -185,7 +188,8 @@ void TestPlibHost::refusedCommandLines()
     QFETCH(int, exitCode);
     QString output;
     QCOMPARE(runHost(arguments, &output), exitCode);
-    QVERIFY(output.contains(exitCode == 2 ? QStringLiteral("usage: plib-host") : QStringLiteral("plib-host: ")));
+    QVERIFY(
+        output.contains(exitCode == 2 ? QStringLiteral("usage: plib-host") : QStringLiteral("plib-host: ")));
 }
 
 QTEST_MAIN(TestPlibHost)

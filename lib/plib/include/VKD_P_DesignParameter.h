@@ -24,7 +24,8 @@ public:
     // doc serves the group dialogs and the bar table, designDoc holds the design records. The
     // two flags are kept and change nothing. Creates the record for the remaining groups in a
     // project that has never held design parameters.
-    VKD_P_DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* designDoc, QWidget* parent, bool flagA, bool flagB);
+    VKD_P_DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* designDoc, QWidget* parent, bool flagA,
+                          bool flagB);
     ~VKD_P_DesignParameter() override;
 
     // Builds the table; always true.

@@ -93,14 +93,15 @@ void DesignParameter::buildTable()
     const QString direction = tr("Direction and Distance");
     const QString reinforcement = tr("Reinforcement");
     const QString crack = tr("Crack Control");
-    table->setHorizontalHeaderItem(
-        ColumnSelection, new VKD_H_TwHeaderItem(ColumnSelection, selection, selection, true, Qt::AlignCenter));
+    table->setHorizontalHeaderItem(ColumnSelection, new VKD_H_TwHeaderItem(ColumnSelection, selection,
+                                                                           selection, true, Qt::AlignCenter));
     table->setHorizontalHeaderItem(
         ColumnType, new VKD_H_TwHeaderComboBoxItem(ColumnType, types, type, type, true, Qt::AlignCenter));
+    table->setHorizontalHeaderItem(ColumnDirection, new VKD_H_TwHeaderItem(ColumnDirection, direction,
+                                                                           direction, true, Qt::AlignCenter));
     table->setHorizontalHeaderItem(
-        ColumnDirection, new VKD_H_TwHeaderItem(ColumnDirection, direction, direction, true, Qt::AlignCenter));
-    table->setHorizontalHeaderItem(ColumnReinforcement, new VKD_H_TwHeaderItem(ColumnReinforcement, reinforcement,
-                                                                               reinforcement, true, Qt::AlignCenter));
+        ColumnReinforcement,
+        new VKD_H_TwHeaderItem(ColumnReinforcement, reinforcement, reinforcement, true, Qt::AlignCenter));
     table->setHorizontalHeaderItem(
         ColumnCrackControl, new VKD_H_TwHeaderItem(ColumnCrackControl, crack, crack, true, Qt::AlignCenter));
     table->resizeColumnsToContents();
@@ -352,17 +353,20 @@ void DesignParameter::slot_editCellWidget()
             // A row without design has no values to edit. The old cell stays recorded.
             if (!isRowNumber(row) || data->rows[size_t(row)].record.type == 0)
                 return;
-            auto* button = new VKD_QT_TableWidgetButton(table, item,
-                                                        id == ColumnDirection ? VKD_QT_TableWidgetButton::EditText
-                                                                              : VKD_QT_TableWidgetButton::TextButton);
+            auto* button =
+                new VKD_QT_TableWidgetButton(table, item,
+                                             id == ColumnDirection ? VKD_QT_TableWidgetButton::EditText
+                                                                   : VKD_QT_TableWidgetButton::TextButton);
             table->setCellWidget(row, col, button);
             if (id == ColumnDirection)
-                connect(button, &VKD_QT_TableWidgetButton::clicked, this, &DesignParameter::slot_editButtonClicked);
+                connect(button, &VKD_QT_TableWidgetButton::clicked, this,
+                        &DesignParameter::slot_editButtonClicked);
             else if (id == ColumnReinforcement)
                 connect(button, &VKD_QT_TableWidgetButton::clicked, this,
                         &DesignParameter::slot_calcReinforcementButtonClicked);
             else
-                connect(button, &VKD_QT_TableWidgetButton::clicked, this, &DesignParameter::slot_calcCrackButtonClicked);
+                connect(button, &VKD_QT_TableWidgetButton::clicked, this,
+                        &DesignParameter::slot_calcCrackButtonClicked);
         }
     }
     editRow = row;

@@ -6,10 +6,7 @@
 #include <QCursor>
 #include <QScopedPointer>
 
-DesignParameterTable::DesignParameterTable(QWidget* parent)
-    : VKD_H_TableWidget(0, 5, parent, "table")
-{
-}
+DesignParameterTable::DesignParameterTable(QWidget* parent) : VKD_H_TableWidget(0, 5, parent, "table") {}
 
 void DesignParameterTable::contextMenuEvent(QContextMenuEvent*)
 {

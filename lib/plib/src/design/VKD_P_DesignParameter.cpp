@@ -11,7 +11,8 @@ VKD_P_DesignParameter::VKD_P_DesignParameter(VKD_H_ZOBDoc* doc, VKD_H_ZOBDoc* de
                                              bool flagA, bool flagB)
     : QWidget(parent), m_page(new DesignParameter(doc, designDoc, this, flagA, flagB))
 {
-    connect(m_page, &DesignParameter::signal_rowCountChanged, this, &VKD_P_DesignParameter::signal_rowCountChanged);
+    connect(m_page, &DesignParameter::signal_rowCountChanged, this,
+            &VKD_P_DesignParameter::signal_rowCountChanged);
     auto* layout = new VKD_QT_VBoxLayout(this);
     layout->addWidget(m_page);
     checkAndCreateZobDefault(designDoc ? designDoc->index() : -1);
