@@ -2,6 +2,7 @@
 #include "catalogue.h"
 #include "outputtreeicons.h"
 #include "testsupport.h"
+#include "treetext.h"
 
 #include <VKD_H_PluginParameter.h>
 #include <VKD_QT_Menu.h>
@@ -11,12 +12,14 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include <memory>
+
 using namespace vkd::plib::widgetgraphicaloutput;
 
 namespace {
 
-// A catalogue line offered on page 1 whatever the model holds. Captions "@Xnn text" keep their
-// text and give the identifier @Xnn; a script "EMPTY" stands for none.
+// A catalogue line offered on pages 1 and 122 whatever the model holds. A caption "@Xnn text"
+// shows text and has the identifier @Xnn; the script "EMPTY" stands for none.
 QByteArray rec(const char* title1, const char* title2, const char* title3, const char* cases = "none",
                int preselect = 0, int view = 0, const char* tag = "All", const char* script = "S")
 {
@@ -26,64 +29,41 @@ QByteArray rec(const char* title1, const char* title2, const char* title3, const
         .toUtf8();
 }
 
-// The tree's list as the next tree will find it, loaded for the desktop's language.
-void installCatalogue(const QByteArray& text)
-{
-    std::vector<GraphicalOutputRecord> records = parseText(text);
-    for (GraphicalOutputRecord& r : records)
-        if (r.scriptEnglish == QLatin1String("PICT EMPTY"))
-            r.scriptGerman = r.scriptEnglish = QString();
-    catalogueList() = records;
-    catalogueLanguage = vkd_lib_getvalue(102);
-}
+const std::vector<LoadcaseInformation> threeRows = {{1, 1, "r1"}, {1, 2, "r2"}, {1, 3, "r3"}, {2, 11, "e1"}};
 
-std::vector<LoadcaseInformation> threeRows()
+// A tree of page progname on the given catalogue, fed with rows.
+struct Tree
 {
-    return {{1, 1, "r1"}, {1, 2, "r2"}, {1, 3, "r3"}, {2, 11, "e1"}};
-}
-
-// The tree in one line: each item's text, its state (+ checked, ~ partially, - unchecked, nothing
-// without a check box) and its children in brackets.
-QString shape(QTreeWidgetItem* item)
-{
-    QString out = item->text(0);
-    if (item->data(0, Qt::CheckStateRole).isValid())
-        out += QLatin1String("-~+").at(item->checkState(0));
-    if (item->childCount() > 0) {
-        QStringList children;
-        for (int i = 0; i < item->childCount(); ++i)
-            children << shape(item->child(i));
-        out += QLatin1Char('(') + children.join(QLatin1Char(' ')) + QLatin1Char(')');
+    explicit Tree(const QByteArray& catalogue, int progname = 1, const std::vector<LoadcaseInformation>& rows = threeRows)
+    {
+        std::vector<GraphicalOutputRecord> records = parseText(catalogue);
+        for (GraphicalOutputRecord& r : records)
+            if (r.scriptEnglish == QLatin1String("PICT EMPTY"))
+                r.scriptGerman = r.scriptEnglish = QString();
+        catalogueList() = records;
+        catalogueLanguage = vkd_lib_getvalue(102);
+        view = std::make_unique<GraphicalOutputTreeWidget>(nullptr, progname, &parameter, "m_list");
+        view->setUsedNumbersAndNames(rows);
     }
-    return out;
-}
+    QTreeWidgetItem* at(std::initializer_list<int> path) const
+    {
+        QTreeWidgetItem* item = nullptr;
+        for (int i : path)
+            item = item ? item->child(i) : view->topLevelItem(i);
+        return item;
+    }
+    QString shape() const { return ::shape(*view); }
 
-QString shape(const QTreeWidget& tree)
-{
-    QStringList tops;
-    for (int i = 0; i < tree.topLevelItemCount(); ++i)
-        tops << shape(tree.topLevelItem(i));
-    return tops.join(QLatin1Char(' '));
-}
+    VKD_H_PluginParameter parameter;
+    std::unique_ptr<GraphicalOutputTreeWidget> view;
+};
 
-QTreeWidgetItem* itemAt(const QTreeWidget& tree, std::initializer_list<int> path)
-{
-    QTreeWidgetItem* item = nullptr;
-    for (int i : path)
-        item = item ? item->child(i) : tree.topLevelItem(i);
-    return item;
-}
-
-// Four top levels; the plots of T4 have plain captions and so share one identifier, the plot
-// g has a colon in its identifier.
-const QByteArray choiceCatalogue = rec("@T01 T1", "@C01 C1", "@P01 a") + rec("@T01 T1", "@C01 C1", "@P02 b", "last-l") +
-                                   rec("@T01 T1", "@C01 C1", "@P03 c", "last-l", 2) +
-                                   rec("@T01 T1", "@C04 C4", "@P06 f") + rec("@T02 T2", "@C02 C2", "@P04 d") +
-                                   rec("@T02 T2", "@C02 C2", "@X:1 g") + rec("@T03 T3", "@C03 C3", "@P05 e") +
-                                   rec("@T04 T4", "@C05 C5", "p") + rec("@T04 T4", "@C05 C5", "q");
-
-const char* const choiceDefaults = "T1~(C1~(a+ b-(r1- r2- r3-) c+(r1+ r2+ r3+)) C4+(f+)) T2+(C2+(d+ g+)) "
-                                   "T3+(C3+(e+)) T4+(C5+(p+ q+))";
+// The plots of T4 have plain captions and share one identifier; g has a colon in its identifier.
+const QByteArray choiceCatalogue =
+    rec("@T01 T1", "@C01 C1", "@P01 a") + rec("@T01 T1", "@C01 C1", "@P02 b", "last-l") +
+    rec("@T01 T1", "@C01 C1", "@P03 c", "last-l", 2) + rec("@T01 T1", "@C04 C4", "@P06 f") +
+    rec("@T02 T2", "@C02 C2", "@P04 d") + rec("@T02 T2", "@C02 C2", "@X:1 g") + rec("@T03 T3", "@C03 C3", "@P05 e") +
+    rec("@T04 T4", "@C05 C5", "p") + rec("@T04 T4", "@C05 C5", "q");
 
 } // namespace
 
@@ -93,98 +73,68 @@ class TestOutputTree : public QObject
 private slots:
     void shapes_data();
     void shapes();
-    void contentDeclaredPresent();
     void choiceThroughRebuilds();
     void scriptLines_data();
     void scriptLines();
-    void nothingToCollect();
+    void nothingThere();
     void selectionRoundTrip();
     void applySelection_data();
     void applySelection();
-    void menuEntries_data();
-    void menuEntries();
-    void expandAndClose();
-    void contextMenuShows();
-    void icons();
-    void dump();
-    void germanTexts();
+    void menu();
+    void iconsAndDump();
 };
 
 void TestOutputTree::shapes_data()
 {
     QTest::addColumn<QByteArray>("catalogue");
     QTest::addColumn<QString>("shape");
-    QTest::newRow("shared captions") << rec("T", "C", "a") + rec("T", "C", "b") << "T+(C+(a+ b+))";
-    QTest::newRow("same three captions make two plots") << rec("T", "C", "a") + rec("T", "C", "a") << "T+(C+(a+ a+))";
+    QTest::newRow("shared captions, same plot twice")
+        << rec("T", "C", "a") + rec("T", "C", "b") + rec("T", "C", "b") << "T+(C+(a+ b+ b+))";
     QTest::newRow("plot with its parent's caption takes later records")
-        << rec("T", "C", "C", "last-l") + rec("T", "C", "b", "last-l", 1)
-        << "T~(C~(C~(r1+ r2- r3- r1- r2- r3-)))";
+        << rec("T", "C", "C", "last-l") + rec("T", "C", "b", "last-l", 1) << "T~(C~(C~(r1+ r2- r3- r1- r2- r3-)))";
     QTest::newRow("captions in order of first appearance")
         << rec("T", "C", "a") + rec("U", "D", "b") + rec("T", "E", "c") + rec("T", "C", "d")
         << "T+(C+(a+ d+) E+(c+)) U+(D+(b+))";
-    QTest::newRow("first row by default") << rec("T", "C", "a", "last-l", 1) << "T~(C~(a~(r1+ r2- r3-)))";
+    QTest::newRow("first row by default") << rec("T", "C", "a", "last-l", 1) + rec("T", "C", "b")
+                                          << "T~(C~(a~(r1+ r2- r3-) b+))";
     QTest::newRow("all rows by default, 2") << rec("T", "C", "a", "last-l", 2) << "T+(C+(a+(r1+ r2+ r3+)))";
     QTest::newRow("all rows by default, 3") << rec("T", "C", "a", "last-l", 3) << "T+(C+(a+(r1+ r2+ r3+)))";
-    QTest::newRow("no row by default") << rec("T", "C", "a", "last-l", 0) << "T-(C-(a-(r1- r2- r3-)))";
     QTest::newRow("combinations take the load case rows") << rec("T", "C", "a", "supp-c") << "T-(C-(a-(r1- r2- r3-)))";
     QTest::newRow("design cases take the rows of kind 2") << rec("T", "C", "a", "desi-e", 2) << "T+(C+(a+(e1+)))";
     QTest::newRow("a word without suffix takes no row") << rec("T", "C", "a", "last", 2) << "T-(C-(a-))";
-    QTest::newRow("plot without cases beside one with rows")
-        << rec("T", "C", "a") + rec("T", "C", "b", "last-l") << "T~(C~(a+ b-(r1- r2- r3-)))";
     QTest::newRow("plot without script goes") << rec("T", "C", "a", "none", 0, 0, "All", "EMPTY") << "T-(C-)";
-    QTest::newRow("records of other pages") << QByteArray("2|0|0|T|C|a|All|0|none|0|0| |0|BILD|PICT\n")
-                                            << "No Entries in database!";
+    QTest::newRow("absent content") << rec("T", "C", "a", "none", 0, 0, "Quad") << "No Entries in database!";
+    QTest::newRow("empty caption") << rec("T", "C", "@ND1") << "No Entries in database!";
 }
 
 void TestOutputTree::shapes()
 {
     QFETCH(QByteArray, catalogue);
     QFETCH(QString, shape);
-    installCatalogue(catalogue);
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-    tree.setUsedNumbersAndNames(threeRows());
-    QCOMPARE(::shape(tree), shape);
+    QCOMPARE(Tree(catalogue).shape(), shape);
 }
 
-// Tags that the page declares present bring their plots in, as often as declared, and all
-// declarations go at once.
-void TestOutputTree::contentDeclaredPresent()
-{
-    installCatalogue(rec("T", "C", "a", "none", 0, 0, "Quad") + rec("T", "C", "b"));
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-    QCOMPARE(shape(tree), QStringLiteral("T+(C+(b+))"));
-    tree.additionalData(QStringLiteral("Quad"), true);
-    tree.additionalData(QStringLiteral("Quad"), true);
-    QCOMPARE(shape(tree), QStringLiteral("T+(C+(a+ b+))"));
-    tree.additionalData(QStringLiteral("Quad"), false);
-    QCOMPARE(shape(tree), QStringLiteral("T+(C+(b+))"));
-}
-
-// A rebuild for a declared tag keeps the choice only once a selection was applied; new rows bring
-// the defaults back, the same rows leave the choice alone.
+// Declared tags bring their plots in, as often as declared, and go all at once; such a rebuild
+// keeps the choice only after a selection was applied. The same rows change nothing, others
+// bring the defaults back.
 void TestOutputTree::choiceThroughRebuilds()
 {
-    installCatalogue(rec("T", "C", "a") + rec("T", "C", "b", "last-l"));
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-    tree.setUsedNumbersAndNames(threeRows());
-    QTreeWidgetItem* a = itemAt(tree, {0, 0, 0});
-    a->setCheckState(0, Qt::Unchecked);
-    tree.additionalData(QStringLiteral("Foo"), true);
-    QCOMPARE(shape(tree), QStringLiteral("T~(C~(a+ b-(r1- r2- r3-)))"));
-
-    tree.applySelection(tree.selectionText());
-    itemAt(tree, {0, 0, 0})->setCheckState(0, Qt::Unchecked);
-    itemAt(tree, {0, 0, 1, 1})->setCheckState(0, Qt::Checked);
+    Tree t(rec("@T01 T", "@C01 C", "@P01 a") + rec("@T01 T", "@C01 C", "@P02 b", "last-l") +
+           rec("@T01 T", "@C01 C", "@P03 q", "none", 0, 0, "Quad"));
+    t.at({0, 0, 0})->setCheckState(0, Qt::Unchecked);
+    t.view->additionalData(QStringLiteral("Quad"), true);
+    t.view->additionalData(QStringLiteral("Quad"), true);
+    QCOMPARE(t.shape(), QStringLiteral("T~(C~(a+ b-(r1- r2- r3-) q+))"));
+    t.view->applySelection(t.view->selectionText());
+    t.at({0, 0, 0})->setCheckState(0, Qt::Unchecked);
+    t.at({0, 0, 1, 1})->setCheckState(0, Qt::Checked);
+    t.view->additionalData(QStringLiteral("Quad"), false);
     const QString chosen = QStringLiteral("T~(C~(a- b~(r1- r2+ r3-)))");
-    tree.additionalData(QStringLiteral("Foo"), false);
-    QCOMPARE(shape(tree), chosen);
-    tree.setUsedNumbersAndNames(threeRows());
-    QCOMPARE(shape(tree), chosen);
-    tree.setUsedNumbersAndNames({{1, 1, "r1"}, {1, 2, "r2"}});
-    QCOMPARE(shape(tree), QStringLiteral("T~(C~(a+ b-(r1- r2-)))"));
+    QCOMPARE(t.shape(), chosen);
+    t.view->setUsedNumbersAndNames(threeRows);
+    QCOMPARE(t.shape(), chosen);
+    t.view->setUsedNumbersAndNames({{1, 1, "r1"}});
+    QCOMPARE(t.shape(), QStringLiteral("T~(C~(a+ b-(r1-)))"));
 }
 
 void TestOutputTree::scriptLines_data()
@@ -195,86 +145,80 @@ void TestOutputTree::scriptLines_data()
     QTest::newRow("split page") << 122 << "treelines-122.txt";
 }
 
-// The walk: depth first, unchecked items and items without a script of their own skipped, the
-// caption above the plot asked for UNIT.
+// Depth first; unchecked items and items without a script of their own make no line; the caption
+// above a plot decides on UNIT.
 void TestOutputTree::scriptLines()
 {
     QFETCH(int, progname);
     QFETCH(QString, reference);
-    installCatalogue(rec("T", "C", "a", "none", 0, 2, "All", "A") + rec("T", "C", "b", "last-l", 0, 0, "All", "B $(LFNR)") +
-                     rec("T", "C", "c", "last", 0, 0, "All", "C") +
-                     rec("U", "D", "d", "last-l", 2, 0, "All", "D UNIT 1") +
-                     rec("U", "D", "e", "last-l", 1, 0, "All", "E") + rec("V", "E", "f", "none", 0, 0, "All", "F"));
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, progname, &parameter, "m_list");
-    tree.setUsedNumbersAndNames({{1, 3, "3 : r3"}, {1, 5, "5+3: r5"}});
-    itemAt(tree, {0, 0, 1, 1})->setCheckState(0, Qt::Checked); // b, row 5
-    itemAt(tree, {0, 0, 2})->setCheckState(0, Qt::Checked);    // c has no rows and no line
-    itemAt(tree, {2, 0, 0})->setCheckState(0, Qt::Unchecked);  // f
-    std::vector<QString> lines{QStringLiteral("stale")};
-    const int n = tree.collectScriptLines(lines, true);
-    QCOMPARE(n, int(lines.size()));
+    Tree t(rec("T", "C", "a", "none", 0, 2, "All", "A") + rec("T", "C", "b", "last-l", 0, 0, "All", "B $(LFNR)") +
+               rec("T", "C", "c", "last", 0, 0, "All", "C") + rec("U", "D", "d", "last-l", 2, 0, "All", "D UNIT 1") +
+               rec("U", "D", "e", "last-l", 1, 0, "All", "E") + rec("V", "E", "f", "none", 0, 0, "All", "F"),
+           progname, {{1, 3, "3 : r3"}, {1, 5, "5+3: r5"}});
+    t.at({0, 0, 1, 1})->setCheckState(0, Qt::Checked); // b, row 5
+    t.at({0, 0, 2})->setCheckState(0, Qt::Checked);    // c has no rows and no line
+    t.at({2, 0, 0})->setCheckState(0, Qt::Unchecked);  // f
+    std::vector<QString> lines;
+    const int count = t.view->collectScriptLines(lines, true);
+    QCOMPARE(count, int(lines.size()));
     QString text;
     for (const QString& line : lines)
         text += line + QLatin1Char('\n');
     QVERIFY(matchesReference(text, reference));
 }
 
-void TestOutputTree::nothingToCollect()
+void TestOutputTree::nothingThere()
 {
-    installCatalogue(QByteArray());
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
+    Tree t{QByteArray()};
     std::vector<QString> lines{QStringLiteral("stale")};
-    QCOMPARE(tree.collectScriptLines(lines, false), 0);
+    QCOMPARE(t.view->collectScriptLines(lines, false), 0);
     QVERIFY(lines.empty());
-    QCOMPARE(tree.selectionText(), QStringLiteral("\n"));
-    tree.clear();
-    QCOMPARE(tree.collectScriptLines(lines, true), 0);
+    QCOMPARE(t.view->selectionText(), QStringLiteral("\n"));
+    t.view->clear();
+    QCOMPARE(t.view->collectScriptLines(lines, true), 0);
 }
 
 // The choice goes to text and comes back; a plot stored as checked takes new rows checked, one
 // stored by numbers takes them unchecked.
 void TestOutputTree::selectionRoundTrip()
 {
-    installCatalogue(choiceCatalogue);
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-    tree.setUsedNumbersAndNames(threeRows());
-    itemAt(tree, {0, 0, 1, 0})->setCheckState(0, Qt::Checked);
-    itemAt(tree, {0, 0, 1, 2})->setCheckState(0, Qt::Checked);
-    itemAt(tree, {1, 0, 0})->setCheckState(0, Qt::Unchecked);
-    itemAt(tree, {1, 0, 1})->setCheckState(0, Qt::Unchecked);
-    itemAt(tree, {2, 0, 0})->setCheckState(0, Qt::PartiallyChecked);
-    QVERIFY(matchesReference(tree.selectionText(), QStringLiteral("selection.txt")));
+    Tree t(choiceCatalogue);
+    t.at({0, 0, 1, 0})->setCheckState(0, Qt::Checked);
+    t.at({0, 0, 1, 2})->setCheckState(0, Qt::Checked);
+    t.at({1, 0})->setCheckState(0, Qt::Unchecked);
+    t.at({2, 0, 0})->setCheckState(0, Qt::PartiallyChecked);
+    QVERIFY(matchesReference(t.view->selectionText(), QStringLiteral("selection.txt")));
 
-    itemAt(tree, {2, 0, 0})->setCheckState(0, Qt::Checked);
-    const QString chosen = shape(tree);
-    const QString text = tree.selectionText();
-    tree.rebuild(true);
-    tree.applySelection(text);
-    QCOMPARE(shape(tree), chosen);
-
-    std::vector<LoadcaseInformation> fourRows = threeRows();
+    t.at({2, 0, 0})->setCheckState(0, Qt::Checked);
+    const QString chosen = t.shape();
+    const QString text = t.view->selectionText();
+    t.view->rebuild(true);
+    t.view->applySelection(text);
+    QCOMPARE(t.shape(), chosen);
+    std::vector<LoadcaseInformation> fourRows = threeRows;
     fourRows.push_back({1, 4, "r4"});
-    tree.setUsedNumbersAndNames(fourRows);
-    tree.applySelection(text);
-    QCOMPARE(shape(itemAt(tree, {0, 0})), QStringLiteral("C1~(a+ b~(r1+ r2- r3+ r4-) c+(r1+ r2+ r3+ r4+))"));
+    t.view->setUsedNumbersAndNames(fourRows);
+    t.view->applySelection(text);
+    QCOMPARE(shape(t.at({0, 0})), QStringLiteral("C1~(a+ b~(r1+ r2- r3+ r4-) c+(r1+ r2+ r3+ r4+))"));
 }
 
 void TestOutputTree::applySelection_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shape");
-    const QString none = "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-    QTest::newRow("empty text keeps the choice") << "\n\n" << choiceDefaults;
+    const QString none =
+        "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
+    QTest::newRow("empty text keeps the choice")
+        << "\n\n"
+        << "T1~(C1~(a+ b-(r1- r2- r3-) c+(r1+ r2+ r3+)) C4+(f+)) T2+(C2+(d+ g+)) T3+(C3+(e+)) T4+(C5+(p+ q+))";
     QTest::newRow("a word alone still clears the choice") << "Checked\n" << none;
     QTest::newRow("unknown identifier") << "Checked:@T09\n" << none;
     QTest::newRow("unknown word") << "Selected:@T01\n" << none;
     QTest::newRow("identifier with a colon is lost") << "Checked:@T02   @C02   @X:1\n" << none;
     QTest::newRow("top level carries down")
-        << "Checked:@T02\n" << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2+(C2+(d+ g+)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-    QTest::newRow("plot, then one of its captions unchecked")
+        << "Checked:@T02\n"
+        << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2+(C2+(d+ g+)) T3-(C3-(e-)) T4-(C5-(p- q-))";
+    QTest::newRow("top level, then one caption unchecked")
         << "Checked:@T01\nUnchecked:@T01   @C04\n"
         << "T1~(C1+(a+ b+(r1+ r2+ r3+) c+(r1+ r2+ r3+)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
     QTest::newRow("rows by number, one unknown")
@@ -290,139 +234,65 @@ void TestOutputTree::applySelection()
 {
     QFETCH(QString, text);
     QFETCH(QString, shape);
-    installCatalogue(choiceCatalogue);
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-    tree.setUsedNumbersAndNames(threeRows());
-    QCOMPARE(::shape(tree), QString::fromLatin1(choiceDefaults));
-    tree.applySelection(text);
-    QCOMPARE(::shape(tree), shape);
+    Tree t(choiceCatalogue);
+    t.view->applySelection(text);
+    QCOMPARE(t.shape(), shape);
 }
 
-void TestOutputTree::menuEntries_data()
-{
-    QTest::addColumn<bool>("withCloseAll");
-    QTest::addColumn<QString>("entries");
-    QTest::newRow("the tree's menu") << false
-                                     << "Expand all|Collapse all|Expand plots|-|Expand loadcases|-|Close loadcases";
-    QTest::newRow("with the closing entry")
-        << true << "Expand all|Collapse all|Expand plots|-|Expand loadcases|-|Close loadcases|-|Close all entries";
-}
-
-void TestOutputTree::menuEntries()
-{
-    QFETCH(bool, withCloseAll);
-    QFETCH(QString, entries);
-    installCatalogue(rec("T", "C", "a"));
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-    PopupHandler other;
-    if (withCloseAll)
-        other.createMenu(&tree, true);
-    const VKD_QT_Menu* menu = withCloseAll ? other.menu() : tree.popupHandler().menu();
-    QVERIFY(menu);
-    QStringList texts;
-    const QList<QAction*> actions = menu->actions();
-    for (const QAction* action : actions)
-        texts << (action->isSeparator() ? QStringLiteral("-") : action->text());
-    QCOMPARE(texts.join(QLatin1Char('|')), entries);
-    QCOMPARE(tree.contextMenuPolicy(), Qt::CustomContextMenu);
-}
-
-// The menu opens and closes levels and leaves the choice alone.
-void TestOutputTree::expandAndClose()
-{
-    installCatalogue(rec("T", "C", "a", "last-l", 1));
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-    tree.setUsedNumbersAndNames(threeRows());
-    const QString chosen = shape(tree);
-    QTreeWidgetItem* top = itemAt(tree, {0});
-    QTreeWidgetItem* caption = itemAt(tree, {0, 0});
-    QTreeWidgetItem* plot = itemAt(tree, {0, 0, 0});
-    auto expanded = [&] {
-        return QString::number(top->isExpanded()) + QString::number(caption->isExpanded()) +
-               QString::number(plot->isExpanded());
-    };
-    auto trigger = [&tree](const char* name) {
-        auto* action = tree.popupHandler().menu()->findChild<QAction*>(QLatin1String(name));
-        QVERIFY2(action, name);
-        action->trigger();
-    };
-    QCOMPARE(expanded(), QStringLiteral("110"));
-    trigger("Expand loadcases");
-    QCOMPARE(expanded(), QStringLiteral("111"));
-    trigger("Close loadcases");
-    QCOMPARE(expanded(), QStringLiteral("110"));
-    trigger("Collapse all");
-    QCOMPARE(expanded(), QStringLiteral("000"));
-    trigger("Expand plots");
-    QCOMPARE(expanded(), QStringLiteral("110"));
-    QCOMPARE(shape(tree), chosen);
-}
-
-void TestOutputTree::contextMenuShows()
-{
-    installCatalogue(rec("T", "C", "a"));
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-    tree.show();
-    QWidget* shown = nullptr;
-    QTimer::singleShot(0, [&shown] {
-        shown = QApplication::activePopupWidget();
-        if (shown)
-            shown->close();
-    });
-    emit tree.customContextMenuRequested(QPoint(5, 5));
-    QCOMPARE(shown, static_cast<QWidget*>(tree.popupHandler().menu()));
-}
-
-// Rows show LF on a German desktop and LC on any other; plots their card.
-void TestOutputTree::icons()
-{
-    QCOMPARE(plotIcon().availableSizes(), QList<QSize>{QSize(16, 15)});
-    QCOMPARE(closeIcon().availableSizes(), QList<QSize>{QSize(16, 16)});
-    const QImage german = rowIcon(0).pixmap(16, 16).toImage();
-    const QImage english = rowIcon(1).pixmap(16, 16).toImage();
-    QVERIFY(german != english);
-    for (int language : {0, 1}) {
-        LanguageScope scope(language);
-        installCatalogue(rec("T", "C", "a", "last-l") + rec("T", "C", "b"));
-        VKD_H_PluginParameter parameter;
-        GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-        tree.setUsedNumbersAndNames(threeRows());
-        QCOMPARE(itemAt(tree, {0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage(), language == 0 ? german : english);
-        for (int plot : {0, 1})
-            QCOMPARE(itemAt(tree, {0, 0, plot})->icon(0).pixmap(16, 15).toImage(),
-                     plotIcon().pixmap(16, 15).toImage());
-    }
-}
-
-void TestOutputTree::dump()
-{
-    installCatalogue(rec("@T01 T", "C", "a", "last-l") + rec("@T01 T", "C", "b"));
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-    tree.setUsedNumbersAndNames(threeRows());
-    QVERIFY(matchesReference(tree.dumpText(), QStringLiteral("dump.txt")));
-}
-
-void TestOutputTree::germanTexts()
+// The entries in order, German from the translation; they open and close levels and leave the
+// choice alone; the menu comes up on request.
+void TestOutputTree::menu()
 {
     QTranslator translator;
     QVERIFY(translator.load(QStringLiteral(TRANSLATIONS)));
     QCoreApplication::installTranslator(&translator);
-    installCatalogue(QByteArray());
-    VKD_H_PluginParameter parameter;
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
+    Tree t(rec("T", "C", "a", "last-l", 1));
     QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(shape(tree), QStringLiteral("Keine Einträge in der Datenbank!"));
     QStringList texts;
-    const QList<QAction*> actions = tree.popupHandler().menu()->actions();
+    const QList<QAction*> actions = t.view->popupHandler().menu()->actions();
     for (const QAction* action : actions)
-        if (!action->isSeparator())
-            texts << action->text();
-    QCOMPARE(texts.mid(2), (QStringList{"Bilder aufklappen", "Lastfälle aufklappen", "Lastfälle zuklappen"}));
+        texts << (action->isSeparator() ? QStringLiteral("-") : action->text());
+    QCOMPARE(texts.mid(2).join(QLatin1Char('|')),
+             QStringLiteral("Bilder aufklappen|-|Lastfälle aufklappen|-|Lastfälle zuklappen"));
+
+    const QString chosen = t.shape();
+    auto expanded = [&t] {
+        return QString::number(t.at({0})->isExpanded()) + QString::number(t.at({0, 0})->isExpanded()) +
+               QString::number(t.at({0, 0, 0})->isExpanded());
+    };
+    QCOMPARE(expanded(), QStringLiteral("110"));
+    const std::pair<int, const char*> steps[] = {{4, "111"}, {6, "110"}, {1, "000"}, {2, "110"}};
+    for (const auto& step : steps) {
+        actions.at(step.first)->trigger();
+        QCOMPARE(expanded(), QLatin1String(step.second));
+    }
+    QCOMPARE(t.shape(), chosen);
+
+    t.view->show();
+    QWidget* shown = nullptr;
+    QTimer::singleShot(0, [&shown] {
+        if ((shown = QApplication::activePopupWidget()))
+            shown->close();
+    });
+    emit t.view->customContextMenuRequested(QPoint(5, 5));
+    QCOMPARE(shown, static_cast<QWidget*>(t.view->popupHandler().menu()));
+}
+
+// Rows show LF on a German desktop and LC on any other, plots their card; the dump shows the
+// identifiers and the first row of a plot.
+void TestOutputTree::iconsAndDump()
+{
+    QCOMPARE(plotIcon().availableSizes(), QList<QSize>{QSize(16, 15)});
+    QCOMPARE(closeIcon().availableSizes(), QList<QSize>{QSize(16, 16)});
+    for (int language : {0, 1}) {
+        LanguageScope scope(language);
+        Tree t(rec("@T01 T", "C", "a", "last-l") + rec("@T01 T", "C", "b"));
+        QCOMPARE(t.at({0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage(), rowIcon(language).pixmap(16, 16).toImage());
+        QVERIFY(t.at({0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage() != rowIcon(1 - language).pixmap(16, 16).toImage());
+        for (int plot : {0, 1})
+            QCOMPARE(t.at({0, 0, plot})->icon(0).pixmap(16, 15).toImage(), plotIcon().pixmap(16, 15).toImage());
+        QVERIFY(matchesReference(t.view->dumpText(), QStringLiteral("dump.txt")));
+    }
 }
 
 QTEST_MAIN(TestOutputTree)

@@ -72,8 +72,6 @@ private slots:
     void lines();
     void secondCase_data();
     void secondCase();
-    void itemId_data();
-    void itemId();
 };
 
 void TestScriptLines::lines_data()
@@ -117,33 +115,6 @@ void TestScriptLines::secondCase()
     QCOMPARE(vkd::plib::widgetgraphicaloutput::secondCase(label, &found), asks);
     if (asks)
         QCOMPARE(found, second);
-}
-
-void TestScriptLines::itemId_data()
-{
-    QTest::addColumn<QString>("id1");
-    QTest::addColumn<QString>("id2");
-    QTest::addColumn<QString>("id3");
-    QTest::addColumn<int>("level");
-    QTest::addColumn<QString>("id");
-    QTest::newRow("plot of plain captions") << "    001" << "    002" << "    003" << 2 << "001    002    003";
-    QTest::newRow("row: the plot's") << "    001" << "    002" << "    003" << 3 << "001    002    003";
-    QTest::newRow("second level") << "   &0SY" << "   @ND1" << "X--&3VE" << 1 << "&0SY   @ND1";
-    QTest::newRow("top level") << "   &0SY" << "   @ND1" << "X--&3VE" << 0 << "&0SY";
-}
-
-void TestScriptLines::itemId()
-{
-    QFETCH(QString, id1);
-    QFETCH(QString, id2);
-    QFETCH(QString, id3);
-    QFETCH(int, level);
-    QFETCH(QString, id);
-    GraphicalOutputRecord record;
-    record.id1 = id1;
-    record.id2 = id2;
-    record.id3 = id3;
-    QCOMPARE(vkd::plib::widgetgraphicaloutput::itemId(record, level), id);
 }
 
 QTEST_GUILESS_MAIN(TestScriptLines)
