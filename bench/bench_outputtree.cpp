@@ -158,7 +158,8 @@ int main(int argc, char** argv)
     figures.push_back({"script lines", milliseconds([&] { tree.collectScriptLines(lines, true); })});
     for (int i = 0; i < tree.topLevelItemCount(); ++i)
         tree.topLevelItem(i)->setCheckState(0, Qt::Checked);
-    figures.push_back({"script lines, all checked", milliseconds([&] { tree.collectScriptLines(lines, true); })});
+    figures.push_back(
+        {"script lines, all checked", milliseconds([&] { tree.collectScriptLines(lines, true); })});
 
     std::printf("output tree: %d plots, %d rows each, %d items\n", plots, rowsPerPlot, items);
     std::printf("%-30s %10.1f ms\n", "baseline: bare build", baseline);

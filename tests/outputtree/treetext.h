@@ -14,7 +14,8 @@ inline QString shape(const QTreeWidgetItem* item)
     QStringList children;
     for (int i = 0; i < item->childCount(); ++i)
         children << shape(item->child(i));
-    return children.isEmpty() ? out : out + QLatin1Char('(') + children.join(QLatin1Char(' ')) + QLatin1Char(')');
+    return children.isEmpty() ? out
+                              : out + QLatin1Char('(') + children.join(QLatin1Char(' ')) + QLatin1Char(')');
 }
 
 inline QString shape(const QTreeWidget& tree)

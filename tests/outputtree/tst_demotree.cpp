@@ -25,7 +25,8 @@ private slots:
         QVERIFY(doc.isValid());
         writeDemoModel(doc.index());
         std::vector<LoadcaseInformation> rows;
-        for (const auto& lc : vkd::dbo::readAll<vkd::dbo::LoadCaseRecord>(doc.index(), vkd::dbo::KeyLoadCases))
+        for (const auto& lc :
+             vkd::dbo::readAll<vkd::dbo::LoadCaseRecord>(doc.index(), vkd::dbo::KeyLoadCases))
             rows.push_back({lc.kind == 4 ? 2 : 1, lc.number,
                             QStringLiteral("%1 : %2").arg(lc.number).arg(QString::fromUtf8(lc.title))});
         VKD_H_PluginParameter parameter(&doc);
@@ -41,7 +42,8 @@ private slots:
             text.clear();
             for (const QString& line : lines)
                 text += line + QLatin1Char('\n');
-            QVERIFY(matchesReference(text, english ? QStringLiteral("demo-lines-en.txt") : QStringLiteral("demo-lines-de.txt")));
+            QVERIFY(matchesReference(text, english ? QStringLiteral("demo-lines-en.txt")
+                                                   : QStringLiteral("demo-lines-de.txt")));
         }
     }
 };

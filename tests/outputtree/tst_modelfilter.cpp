@@ -59,8 +59,8 @@ void TestModelFilter::systemBit_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<int>("bit");
-    const std::pair<int, int> table[] = {{0, 8},   {-9, 8}, {10, 1}, {13, 2}, {14, 1}, {19, 2}, {25, 8},
-                                         {35, 4}, {45, 0}, {50, 15}, {-10, 15}};
+    const std::pair<int, int> table[] = {{0, 8},  {-9, 8}, {10, 1}, {13, 2},  {14, 1},  {19, 2},
+                                         {25, 8}, {35, 4}, {45, 0}, {50, 15}, {-10, 15}};
     for (const auto& [kind, bit] : table)
         QTest::addRow("kind %d", kind) << kind << bit;
 }
@@ -110,7 +110,8 @@ void TestModelFilter::isRecordOffered_data()
     QTest::newRow("mask meets the bit") << 3 << 1 << 10 << "Node" << QStringList() << true << true;
     QTest::newRow("high bits count for nothing") << 3 << 18 << 10 << "Node" << QStringList() << false << true;
     QTest::newRow("absent content") << 3 << 0 << 0 << "Quad" << QStringList() << false << false;
-    QTest::newRow("declared present") << 3 << 0 << 0 << "Quad" << QStringList{"Beam", "Quad"} << true << false;
+    QTest::newRow("declared present")
+        << 3 << 0 << 0 << "Quad" << QStringList{"Beam", "Quad"} << true << false;
     QTest::newRow("declared with case") << 3 << 0 << 0 << "Quad" << QStringList{"quad"} << false << false;
 }
 

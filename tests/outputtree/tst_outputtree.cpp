@@ -34,7 +34,8 @@ const std::vector<LoadcaseInformation> threeRows = {{1, 1, "r1"}, {1, 2, "r2"}, 
 // A tree of page progname on the given catalogue, fed with rows.
 struct Tree
 {
-    explicit Tree(const QByteArray& catalogue, int progname = 1, const std::vector<LoadcaseInformation>& rows = threeRows)
+    explicit Tree(const QByteArray& catalogue, int progname = 1,
+                  const std::vector<LoadcaseInformation>& rows = threeRows)
     {
         std::vector<GraphicalOutputRecord> records = parseText(catalogue);
         for (GraphicalOutputRecord& r : records)
@@ -62,8 +63,8 @@ struct Tree
 const QByteArray choiceCatalogue =
     rec("@T01 T1", "@C01 C1", "@P01 a") + rec("@T01 T1", "@C01 C1", "@P02 b", "last-l") +
     rec("@T01 T1", "@C01 C1", "@P03 c", "last-l", 2) + rec("@T01 T1", "@C04 C4", "@P06 f") +
-    rec("@T02 T2", "@C02 C2", "@P04 d") + rec("@T02 T2", "@C02 C2", "@X:1 g") + rec("@T03 T3", "@C03 C3", "@P05 e") +
-    rec("@T04 T4", "@C05 C5", "p") + rec("@T04 T4", "@C05 C5", "q");
+    rec("@T02 T2", "@C02 C2", "@P04 d") + rec("@T02 T2", "@C02 C2", "@X:1 g") +
+    rec("@T03 T3", "@C03 C3", "@P05 e") + rec("@T04 T4", "@C05 C5", "p") + rec("@T04 T4", "@C05 C5", "q");
 
 } // namespace
 
@@ -91,16 +92,19 @@ void TestOutputTree::shapes_data()
     QTest::newRow("shared captions, same plot twice")
         << rec("T", "C", "a") + rec("T", "C", "b") + rec("T", "C", "b") << "T+(C+(a+ b+ b+))";
     QTest::newRow("plot with its parent's caption takes later records")
-        << rec("T", "C", "C", "last-l") + rec("T", "C", "b", "last-l", 1) << "T~(C~(C~(r1+ r2- r3- r1- r2- r3-)))";
+        << rec("T", "C", "C", "last-l") + rec("T", "C", "b", "last-l", 1)
+        << "T~(C~(C~(r1+ r2- r3- r1- r2- r3-)))";
     QTest::newRow("captions in order of first appearance")
         << rec("T", "C", "a") + rec("U", "D", "b") + rec("T", "E", "c") + rec("T", "C", "d")
         << "T+(C+(a+ d+) E+(c+)) U+(D+(b+))";
-    QTest::newRow("first row by default") << rec("T", "C", "a", "last-l", 1) + rec("T", "C", "b")
-                                          << "T~(C~(a~(r1+ r2- r3-) b+))";
+    QTest::newRow("first row by default")
+        << rec("T", "C", "a", "last-l", 1) + rec("T", "C", "b") << "T~(C~(a~(r1+ r2- r3-) b+))";
     QTest::newRow("all rows by default, 2") << rec("T", "C", "a", "last-l", 2) << "T+(C+(a+(r1+ r2+ r3+)))";
     QTest::newRow("all rows by default, 3") << rec("T", "C", "a", "last-l", 3) << "T+(C+(a+(r1+ r2+ r3+)))";
-    QTest::newRow("combinations take the load case rows") << rec("T", "C", "a", "supp-c") << "T-(C-(a-(r1- r2- r3-)))";
-    QTest::newRow("design cases take the rows of kind 2") << rec("T", "C", "a", "desi-e", 2) << "T+(C+(a+(e1+)))";
+    QTest::newRow("combinations take the load case rows")
+        << rec("T", "C", "a", "supp-c") << "T-(C-(a-(r1- r2- r3-)))";
+    QTest::newRow("design cases take the rows of kind 2")
+        << rec("T", "C", "a", "desi-e", 2) << "T+(C+(a+(e1+)))";
     QTest::newRow("a word without suffix takes no row") << rec("T", "C", "a", "last", 2) << "T-(C-(a-))";
     QTest::newRow("plot without script goes") << rec("T", "C", "a", "none", 0, 0, "All", "EMPTY") << "T-(C-)";
     QTest::newRow("absent content") << rec("T", "C", "a", "none", 0, 0, "Quad") << "No Entries in database!";
@@ -151,8 +155,10 @@ void TestOutputTree::scriptLines()
 {
     QFETCH(int, progname);
     QFETCH(QString, reference);
-    Tree t(rec("T", "C", "a", "none", 0, 2, "All", "A") + rec("T", "C", "b", "last-l", 0, 0, "All", "B $(LFNR)") +
-               rec("T", "C", "c", "last", 0, 0, "All", "C") + rec("U", "D", "d", "last-l", 2, 0, "All", "D UNIT 1") +
+    Tree t(rec("T", "C", "a", "none", 0, 2, "All", "A") +
+               rec("T", "C", "b", "last-l", 0, 0, "All", "B $(LFNR)") +
+               rec("T", "C", "c", "last", 0, 0, "All", "C") +
+               rec("U", "D", "d", "last-l", 2, 0, "All", "D UNIT 1") +
                rec("U", "D", "e", "last-l", 1, 0, "All", "E") + rec("V", "E", "f", "none", 0, 0, "All", "F"),
            progname, {{1, 3, "3 : r3"}, {1, 5, "5+3: r5"}});
     t.at({0, 0, 1, 1})->setCheckState(0, Qt::Checked); // b, row 5
@@ -208,26 +214,28 @@ void TestOutputTree::applySelection_data()
     QTest::addColumn<QString>("shape");
     const QString none =
         "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-    QTest::newRow("empty text keeps the choice")
-        << "\n\n"
-        << "T1~(C1~(a+ b-(r1- r2- r3-) c+(r1+ r2+ r3+)) C4+(f+)) T2+(C2+(d+ g+)) T3+(C3+(e+)) T4+(C5+(p+ q+))";
+    QTest::newRow("empty text keeps the choice") << "\n\n"
+                                                 << "T1~(C1~(a+ b-(r1- r2- r3-) c+(r1+ r2+ r3+)) C4+(f+)) "
+                                                    "T2+(C2+(d+ g+)) T3+(C3+(e+)) T4+(C5+(p+ q+))";
     QTest::newRow("a word alone still clears the choice") << "Checked\n" << none;
     QTest::newRow("unknown identifier") << "Checked:@T09\n" << none;
     QTest::newRow("unknown word") << "Selected:@T01\n" << none;
     QTest::newRow("identifier with a colon is lost") << "Checked:@T02   @C02   @X:1\n" << none;
-    QTest::newRow("top level carries down")
-        << "Checked:@T02\n"
-        << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2+(C2+(d+ g+)) T3-(C3-(e-)) T4-(C5-(p- q-))";
+    QTest::newRow("top level carries down") << "Checked:@T02\n"
+                                            << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) "
+                                               "T2+(C2+(d+ g+)) T3-(C3-(e-)) T4-(C5-(p- q-))";
     QTest::newRow("top level, then one caption unchecked")
         << "Checked:@T01\nUnchecked:@T01   @C04\n"
-        << "T1~(C1+(a+ b+(r1+ r2+ r3+) c+(r1+ r2+ r3+)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-    QTest::newRow("rows by number, one unknown")
-        << "Partially:@T01   @C01   @P02 : 3,7,\n"
-        << "T1~(C1~(a- b~(r1- r2- r3+) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
+        << "T1~(C1+(a+ b+(r1+ r2+ r3+) c+(r1+ r2+ r3+)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- "
+           "q-))";
+    QTest::newRow("rows by number, one unknown") << "Partially:@T01   @C01   @P02 : 3,7,\n"
+                                                 << "T1~(C1~(a- b~(r1- r2- r3+) c-(r1- r2- r3-)) C4-(f-)) "
+                                                    "T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
     QTest::newRow("only numbers no row has") << "Partially:@T01   @C01   @P02 : 7,\n" << none;
     QTest::newRow("plain captions find the last plot")
         << "Checked:@T04   @C05    003\n"
-        << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4~(C5~(p- q+))";
+        << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4~(C5~(p- "
+           "q+))";
 }
 
 void TestOutputTree::applySelection()
@@ -287,10 +295,13 @@ void TestOutputTree::iconsAndDump()
     for (int language : {0, 1}) {
         LanguageScope scope(language);
         Tree t(rec("@T01 T", "C", "a", "last-l") + rec("@T01 T", "C", "b"));
-        QCOMPARE(t.at({0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage(), rowIcon(language).pixmap(16, 16).toImage());
-        QVERIFY(t.at({0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage() != rowIcon(1 - language).pixmap(16, 16).toImage());
+        QCOMPARE(t.at({0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage(),
+                 rowIcon(language).pixmap(16, 16).toImage());
+        QVERIFY(t.at({0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage() !=
+                rowIcon(1 - language).pixmap(16, 16).toImage());
         for (int plot : {0, 1})
-            QCOMPARE(t.at({0, 0, plot})->icon(0).pixmap(16, 15).toImage(), plotIcon().pixmap(16, 15).toImage());
+            QCOMPARE(t.at({0, 0, plot})->icon(0).pixmap(16, 15).toImage(),
+                     plotIcon().pixmap(16, 15).toImage());
         QVERIFY(matchesReference(t.view->dumpText(), QStringLiteral("dump.txt")));
     }
 }

@@ -13,6 +13,8 @@
 #include <QKeySequence>
 #include <QStringList>
 
+#include <functional>
+
 using namespace vkd::plib::widgetgraphicaloutput;
 
 namespace {
@@ -188,14 +190,14 @@ void PopupHandler::createMenu(GraphicalOutputTreeWidget* tree, bool withCloseAll
         m_menu->addAction(action);
         return action;
     };
-    m_expandPlots = add(plotIcon(), QT_TR_NOOP("Expand plots"));
+    m_expandPlots = add(plotIcon(), QT_TRANSLATE_NOOP("GraphicalOutputTreeWidget", "Expand plots"));
     m_menu->addSeparator();
-    m_expandLoads = add(loads, QT_TR_NOOP("Expand loadcases"));
+    m_expandLoads = add(loads, QT_TRANSLATE_NOOP("GraphicalOutputTreeWidget", "Expand loadcases"));
     m_menu->addSeparator();
-    m_closeLoads = add(loads, QT_TR_NOOP("Close loadcases"));
+    m_closeLoads = add(loads, QT_TRANSLATE_NOOP("GraphicalOutputTreeWidget", "Close loadcases"));
     if (withCloseAll) {
         m_menu->addSeparator();
-        m_closeAll = add(closeIcon(), QT_TR_NOOP("Close all entries"));
+        m_closeAll = add(closeIcon(), QT_TRANSLATE_NOOP("GraphicalOutputTreeWidget", "Close all entries"));
     }
     tree->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(tree, &QWidget::customContextMenuRequested, this, &PopupHandler::ShowContextMenu);

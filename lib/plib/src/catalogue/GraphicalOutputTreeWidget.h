@@ -67,7 +67,8 @@ class GraphicalOutputTreeWidget : public VKD_QT_TreeWidget
 {
     Q_OBJECT
 public:
-    GraphicalOutputTreeWidget(QWidget* parent, int progname, VKD_H_PluginParameter* parameter, const char* name);
+    GraphicalOutputTreeWidget(QWidget* parent, int progname, VKD_H_PluginParameter* parameter,
+                              const char* name);
     ~GraphicalOutputTreeWidget() override;
 
     // Empties and refills the tree. With defaults the choice of the catalogue comes up, otherwise
@@ -77,7 +78,8 @@ public:
     void additionalData(const QString& tag, bool add);
     // Gives the tree its load case rows; a list equal to the present one changes nothing, any
     // other rebuilds with the default choice.
-    void setUsedNumbersAndNames(const std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>& lcInfos);
+    void
+    setUsedNumbersAndNames(const std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>& lcInfos);
 
     // Empties lines and fills them with the script lines of the checked plots and rows, with
     // English or German keywords; gives their number.

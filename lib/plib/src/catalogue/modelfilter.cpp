@@ -38,8 +38,8 @@ const TagOfContent contentTags[] = {
 } // namespace
 
 ProjectModel::ProjectModel(const VKD_H_PluginParameter* parameter)
-    : m_index(parameter ? indexOf(parameter->zobDoc()) : -1)
-    , m_sectionIndex(parameter && parameter->secondZobDoc() ? indexOf(parameter->secondZobDoc()) : m_index)
+    : m_index(parameter ? indexOf(parameter->zobDoc()) : -1),
+      m_sectionIndex(parameter && parameter->secondZobDoc() ? indexOf(parameter->secondZobDoc()) : m_index)
 {
 }
 

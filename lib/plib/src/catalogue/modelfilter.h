@@ -11,7 +11,8 @@ class VKD_H_PluginParameter;
 namespace vkd::plib::widgetgraphicaloutput {
 
 // What the model of a project may hold, as far as the catalogue asks for it.
-enum class ModelContent {
+enum class ModelContent
+{
     Nodes,
     Quads,
     Boundaries,

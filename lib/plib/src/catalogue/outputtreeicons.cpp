@@ -6,6 +6,9 @@ namespace vkd::plib::widgetgraphicaloutput {
 
 namespace {
 
+// The pictures stay one row a line.
+// clang-format off
+
 // A card with a landscape: sky, sun, mountain, meadow.
 const char* const plotXpm[] = {
     "16 15 7 1",
@@ -101,6 +104,8 @@ const char* const closeXpm[] = {
     "  gggggggggggggg",
     "                ",
 };
+
+// clang-format on
 
 } // namespace
 

@@ -3,17 +3,15 @@
 namespace vkd::plib::widgetgraphicaloutput {
 
 ScriptContext::ScriptContext(bool english, int progname, std::function<int()> kindOfSystem)
-    : viewWord(english ? QStringLiteral("VIEW ") : QStringLiteral("BEOB "))
-    , lcWord(english ? QStringLiteral("LC ") : QStringLiteral("LF "))
-    , designWord(english ? QStringLiteral(" DESI ") : QStringLiteral(" BEME "))
-    , andWord(english ? QStringLiteral(" ; AND ") : QStringLiteral(" ; UND "))
-    , firstColour(english ? QStringLiteral("COLO C14 -1 ; ") : QStringLiteral("FARB F14 -1 ; "))
-    , secondColour(english ? QStringLiteral("COLO STAN ; COLO C13 -1 ; ")
-                           : QStringLiteral("FARB STAN ; FARB F13 -1 ; "))
-    , colourEnd(english ? QStringLiteral(" ; COLO STAN") : QStringLiteral(" ; FARB STAN"))
-    , english(english)
-    , progname(progname)
-    , m_askKindOfSystem(std::move(kindOfSystem))
+    : viewWord(english ? QStringLiteral("VIEW ") : QStringLiteral("BEOB ")),
+      lcWord(english ? QStringLiteral("LC ") : QStringLiteral("LF ")),
+      designWord(english ? QStringLiteral(" DESI ") : QStringLiteral(" BEME ")),
+      andWord(english ? QStringLiteral(" ; AND ") : QStringLiteral(" ; UND ")),
+      firstColour(english ? QStringLiteral("COLO C14 -1 ; ") : QStringLiteral("FARB F14 -1 ; ")),
+      secondColour(english ? QStringLiteral("COLO STAN ; COLO C13 -1 ; ")
+                           : QStringLiteral("FARB STAN ; FARB F13 -1 ; ")),
+      colourEnd(english ? QStringLiteral(" ; COLO STAN") : QStringLiteral(" ; FARB STAN")), english(english),
+      progname(progname), m_askKindOfSystem(std::move(kindOfSystem))
 {
 }
 
