@@ -1,5 +1,6 @@
 // Loads libvkd_p_fea.so as a host does and runs its self-check with the given arguments.
-// Prints the language before and after and a text translated by the library's translator.
+// Prints the language before and after, a text translated by the library's translator and one
+// by the suite's.
 #include <VKD_P_Frame.h>
 #include <vkd_q.h>
 
@@ -15,7 +16,8 @@ int main(int argc, char** argv)
     }
     const int before = vkd_lib_getvalue(102);
     const int result = vkd_unittests(args);
-    std::printf("result %d\nlanguage %d %d\ntext %s\n", result, before, vkd_lib_getvalue(102),
-                qUtf8Printable(QCoreApplication::translate("VKD_P_Mix_UnitTest", "Self-check of the library")));
+    std::printf("result %d\nlanguage %d %d\ntext %s\nsuite %s\n", result, before, vkd_lib_getvalue(102),
+                qUtf8Printable(QCoreApplication::translate("VKD_P_Mix_UnitTest", "Self-check of the library")),
+                qUtf8Printable(QCoreApplication::translate("VKD_QT_Ok", "Cancel")));
     return result;
 }

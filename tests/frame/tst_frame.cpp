@@ -178,16 +178,18 @@ void TestFrame::translatorInstalledOnceTheApplicationExists_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("text");
-    QTest::newRow("German desktop") << "de" << "Selbsttest der Bibliothek";
-    QTest::newRow("English desktop") << "en" << "Self-check of the library";
+    QTest::addColumn<QString>("suiteText");
+    QTest::newRow("German desktop") << "de" << "Selbsttest der Bibliothek" << "Abbrechen";
+    QTest::newRow("English desktop") << "en" << "Self-check of the library" << "Cancel";
 }
 
-// The library's translator is created by a static initialiser, before main creates the
-// application object; the German texts must still be in effect afterwards.
+// The translators of the library and of the suite are created by static initialisers, before
+// main creates the application object; the German texts must still be in effect afterwards.
 void TestFrame::translatorInstalledOnceTheApplicationExists()
 {
     QFETCH(QString, language);
     QFETCH(QString, text);
+    QFETCH(QString, suiteText);
     QTemporaryDir dir;
     QProcess runner;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
@@ -197,6 +199,7 @@ void TestFrame::translatorInstalledOnceTheApplicationExists()
     QVERIFY(runner.waitForFinished(60000));
     const QString out = QString::fromUtf8(runner.readAllStandardOutput());
     QVERIFY2(out.contains(QStringLiteral("text ") + text + QLatin1Char('\n')), qPrintable(out));
+    QVERIFY2(out.contains(QStringLiteral("suite ") + suiteText + QLatin1Char('\n')), qPrintable(out));
 }
 
 QTEST_MAIN(TestFrame)
