@@ -2,8 +2,6 @@
 #include "loadcatalogue.h"
 #include "testsupport.h"
 
-#include <vkd_q.h>
-
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -19,37 +17,26 @@ using namespace vkd::plib::widgetgraphicaloutput;
 
 namespace {
 
-// Answers every modal message box as a person would, by clicking its button, and remembers what
-// it showed.
+// Answers every modal message box by a click on its button, and remembers what it showed.
 class BoxAnswerer : public QObject
 {
 public:
-    struct Box
-    {
-        QString title;
-        QString text;
-        QMessageBox::Icon icon;
-        QWidget* parent;
-    };
-
     BoxAnswerer()
     {
-        connect(&m_timer, &QTimer::timeout, this, &BoxAnswerer::answer);
+        connect(&m_timer, &QTimer::timeout, this, [this] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box || box->buttons().isEmpty())
+                return;
+            boxes << QStringList{box->windowTitle(), box->text(), QString::number(box->icon())};
+            parents << box->parentWidget();
+            QTest::mouseClick(box->buttons().first(), Qt::LeftButton);
+        });
         m_timer.start(10);
     }
-
-    QList<Box> boxes;
+    QList<QStringList> boxes;
+    QList<QWidget*> parents;
 
 private:
-    void answer()
-    {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box || box->buttons().isEmpty())
-            return;
-        boxes << Box{box->windowTitle(), box->text(), box->icon(), box->parentWidget()};
-        QTest::mouseClick(box->buttons().first(), Qt::LeftButton);
-    }
-
     QTimer m_timer;
 };
 
@@ -58,49 +45,14 @@ const QByteArray twoPlots =
     "1|0|0|&ABC Results|@ND1 Nodes|X--&ABC Displacement|Node|0|last-l|1|1| |0|KNOT VERS UX|NODE DISP UX\n"
     "1|0|0|&ABC Results|@ND1 Nodes|^CAR|Node|0|none|0|0| |0|KNOT NUMM|NODE NUMB\n";
 
-void writeCatalogue(const QTemporaryDir& dir, const QByteArray& text)
+// Puts a catalogue with the text into a folder of the search path, beside the test texts.
+void offer(const QTemporaryDir& dir, const QByteArray& text)
 {
     QFile file(dir.filePath(QStringLiteral("graphicaloutput.data")));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(text);
+    qputenv("VKD_SEARCHPATH", (dir.path() + QStringLiteral(":" TEST_DATA_DIR "/textservice")).toUtf8());
 }
-
-// The folders of the search path: the catalogue's and the one with the texts of the graphics
-// program.
-void searchIn(const QString& folder)
-{
-    qputenv("VKD_SEARCHPATH",
-            (folder + QLatin1Char(':') + QStringLiteral(TEST_DATA_DIR "/textservice")).toUtf8());
-}
-
-QStringList captions()
-{
-    QStringList out;
-    for (const GraphicalOutputRecord& r : catalogueList())
-        out << r.title1 + QLatin1Char('/') + r.title2 + QLatin1Char('/') + r.title3;
-    return out;
-}
-
-// Denies this thread the reading of files without read permission. Root reads every file,
-// whatever its permissions say, unless the file system user is another one. The process stays in
-// root's group, so a folder it must search needs the group's permission too.
-class UnprivilegedFileAccess
-{
-public:
-    explicit UnprivilegedFileAccess(bool enabled = true)
-    {
-        if (enabled && geteuid() == 0)
-            m_saved = setfsuid(65534);
-    }
-    ~UnprivilegedFileAccess()
-    {
-        if (m_saved >= 0)
-            setfsuid(m_saved);
-    }
-
-private:
-    int m_saved = -1;
-};
 
 } // namespace
 
@@ -111,9 +63,7 @@ private slots:
     void init();
     void failures_data();
     void failures();
-    void sameLanguageReadsOnce();
-    void secondLanguageDoublesTheList();
-    void commentsOnly();
+    void readsOncePerLanguage();
 };
 
 void TestLoadCatalogue::init()
@@ -138,117 +88,77 @@ void TestLoadCatalogue::failures_data()
                                                     << "Die Datei %1 konnte nicht geöffnet werden";
 }
 
+// A failed load leaves the list of an earlier one and its language, and the next load tries
+// again.
 void TestLoadCatalogue::failures()
 {
     QFETCH(bool, onSearchPath);
     QFETCH(bool, german);
     QFETCH(QString, title);
     QFETCH(QString, text);
-
-    // A list loaded before in German stays as it is.
     QTemporaryDir good;
-    writeCatalogue(good, twoPlots);
-    searchIn(good.path());
+    offer(good, twoPlots);
     QVERIFY(loadCatalogue(nullptr, 0));
-    const QStringList before = captions();
-    QCOMPARE(before.size(), 2);
+    QCOMPARE(catalogueList().size(), size_t(2));
 
     QTemporaryDir bad;
     const QString path = bad.filePath(QStringLiteral("graphicaloutput.data"));
-    searchIn(bad.path());
-    if (onSearchPath) {
-        writeCatalogue(bad, twoPlots);
-        QFile::setPermissions(bad.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
-                                              QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
-                                              QFile::ExeOther);
+    offer(bad, twoPlots);
+    if (!onSearchPath) {
+        QVERIFY(QFile::remove(path));
+        if (!vkd_lib_searchpath("graphicaloutput.data", 3).empty())
+            QSKIP("an installed catalogue is on the search path");
+    } else {
+        // rwxr-xr-x, so that another user may search the folder, and the file unreadable
+        QFile::setPermissions(bad.path(), QFile::Permissions(0x7055));
         QFile::setPermissions(path, QFile::Permissions());
-        UnprivilegedFileAccess access;
-        QFile probe(path);
-        if (probe.open(QIODevice::ReadOnly))
-            QSKIP("this process reads a file without read permission");
-    } else if (!vkd_lib_searchpath("graphicaloutput.data", 3).empty()) {
-        QSKIP("an installed catalogue is on the search path");
     }
-
     QTranslator translator;
     if (german) {
         QVERIFY(translator.load(QStringLiteral(TRANSLATIONS)));
         QCoreApplication::installTranslator(&translator);
     }
     QWidget parent;
-    for (int attempt = 1; attempt <= 2; ++attempt) {
-        BoxAnswerer answerer;
-        bool loaded = true;
-        {
-            UnprivilegedFileAccess access(onSearchPath);
-            loaded = loadCatalogue(&parent, 1);
-        }
-        QVERIFY(!loaded);
-        QCOMPARE(answerer.boxes.size(), 1);
-        const BoxAnswerer::Box& box = answerer.boxes.first();
-        QCOMPARE(box.title, title);
-        QCOMPARE(box.text, onSearchPath ? text.arg(path) : text);
-        QCOMPARE(box.icon, QMessageBox::Critical);
-        QCOMPARE(box.parent, &parent);
-        QCOMPARE(captions(), before);
-        QCOMPARE(catalogueLanguage, 0);
-    }
-}
-
-void TestLoadCatalogue::sameLanguageReadsOnce()
-{
-    QTemporaryDir dir;
-    writeCatalogue(dir, twoPlots);
-    searchIn(dir.path());
     BoxAnswerer answerer;
-    QVERIFY(loadCatalogue(nullptr, 1));
-    QCOMPARE(captions(), (QStringList{"Base/Nodes/Base global X", "Base/Nodes/Caret"}));
-    QCOMPARE(catalogueLanguage, 1);
-
-    // Without the file a second read would fail; there is none.
-    QVERIFY(QFile::remove(dir.filePath(QStringLiteral("graphicaloutput.data"))));
-    QVERIFY(loadCatalogue(nullptr, 1));
-    QCOMPARE(captions().size(), 2);
-    QCOMPARE(answerer.boxes.size(), 0);
-}
-
-void TestLoadCatalogue::secondLanguageDoublesTheList()
-{
-    QTemporaryDir dir;
-    writeCatalogue(dir, twoPlots);
-    searchIn(dir.path());
-    BoxAnswerer answerer;
-    const QStringList german{"Basis/Nodes/Basis global X", "Basis/Nodes/Dach"};
-    const QStringList english{"Base/Nodes/Base global X", "Base/Nodes/Caret"};
-    {
-        LanguageScope desktop(0);
-        QVERIFY(loadCatalogue(nullptr, 0));
-    }
-    QCOMPARE(captions(), german);
-    {
-        LanguageScope desktop(1);
-        QVERIFY(loadCatalogue(nullptr, 1));
-        QVERIFY(loadCatalogue(nullptr, 1));
-    }
-    QCOMPARE(captions(), german + english);
-    QCOMPARE(catalogueLanguage, 1);
-    {
-        LanguageScope desktop(0);
-        QVERIFY(loadCatalogue(nullptr, 0));
-    }
-    QCOMPARE(captions(), german + english + german);
+    // Root reads a file without read permission unless its file system user is another one.
+    const int savedUser = onSearchPath && geteuid() == 0 ? setfsuid(65534) : -1;
+    const bool readable = onSearchPath && QFile(path).open(QIODevice::ReadOnly);
+    const bool first = loadCatalogue(&parent, 1);
+    const bool second = loadCatalogue(&parent, 1);
+    if (savedUser >= 0)
+        setfsuid(savedUser);
+    if (readable)
+        QSKIP("this process reads a file without read permission");
+    QVERIFY(!first && !second);
+    const QStringList box{title, onSearchPath ? text.arg(path) : text,
+                          QString::number(QMessageBox::Critical)};
+    QCOMPARE(answerer.boxes, (QList<QStringList>{box, box}));
+    QCOMPARE(answerer.parents, (QList<QWidget*>{&parent, &parent}));
+    QCOMPARE(catalogueList().size(), size_t(2));
     QCOMPARE(catalogueLanguage, 0);
-    QCOMPARE(answerer.boxes.size(), 0);
 }
 
-void TestLoadCatalogue::commentsOnly()
+// A catalogue of comments only loads as an empty list. The file is read once per language,
+// and each new language appends to the list.
+void TestLoadCatalogue::readsOncePerLanguage()
 {
     QTemporaryDir dir;
-    writeCatalogue(dir, "// nothing but comments\n//1|0|0|a|b|c|Node|0|last|1|1| |0|G|E\n");
-    searchIn(dir.path());
     BoxAnswerer answerer;
+    offer(dir, "// nothing but comments\n//1|0|0|a|b|c|Node|0|last|1|1| |0|G|E\n");
+    QVERIFY(loadCatalogue(nullptr, 1));
+    QCOMPARE(catalogueLanguage, 1);
+    offer(dir, twoPlots);
     QVERIFY(loadCatalogue(nullptr, 1));
     QVERIFY(catalogueList().empty());
+
+    for (int language : {0, 1}) {
+        LanguageScope desktop(language);
+        QVERIFY(loadCatalogue(nullptr, language));
+    }
+    QStringList captions;
+    for (const GraphicalOutputRecord& r : catalogueList())
+        captions << r.title3;
+    QCOMPARE(captions, (QStringList{"Basis global X", "Dach", "Base global X", "Caret"}));
     QCOMPARE(catalogueLanguage, 1);
     QCOMPARE(answerer.boxes.size(), 0);
 }
