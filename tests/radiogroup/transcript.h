@@ -87,7 +87,7 @@ template <class Group> QString transcript(const QString& steps)
                                    : arg == "qtable" ? static_cast<QWidget*>(&qtTable)
                                                      : nullptr);
         else if (op == "click")
-            button ? button->click() : void(log << QStringLiteral("no such button"));
+            button ? button->click() : log.append(QStringLiteral("no such button"));
         else if (op == "select")
             group.setSelectedId(id);
         else if (op == "off" || op == "on")
