@@ -1,13 +1,16 @@
 #include "GraphicalOutputTreeWidget.h"
 #include "catalogue.h"
+#include "demomodel.h"
 #include "outputtreeicons.h"
 #include "testsupport.h"
-#include "treetext.h"
 
 #include <VKD_H_PluginParameter.h>
+#include <VKD_H_ZOBDoc.h>
 #include <VKD_QT_Menu.h>
+#include <vkd_dbo.h>
 
 #include <QApplication>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QTranslator>
 #include <QtTest>
@@ -17,6 +20,40 @@
 using namespace vkd::plib::widgetgraphicaloutput;
 
 namespace {
+
+// An item and all below it in one line: its text, its state (+ checked, ~ partially,
+// - unchecked, nothing without a check box) and its children in brackets.
+inline QString shape(const QTreeWidgetItem* item)
+{
+    QString out = item->text(0);
+    if (item->data(0, Qt::CheckStateRole).isValid())
+        out += QLatin1String("-~+").at(item->checkState(0));
+    QStringList children;
+    for (int i = 0; i < item->childCount(); ++i)
+        children << shape(item->child(i));
+    return children.isEmpty() ? out
+                              : out + QLatin1Char('(') + children.join(QLatin1Char(' ')) + QLatin1Char(')');
+}
+
+inline QString shape(const QTreeWidget& tree)
+{
+    QStringList tops;
+    for (int i = 0; i < tree.topLevelItemCount(); ++i)
+        tops << shape(tree.topLevelItem(i));
+    return tops.join(QLatin1Char(' '));
+}
+
+// One line for each caption and each plot with its rows, indented by level.
+inline QString listing(const QTreeWidgetItem* item, int level = 0)
+{
+    const QString indent(2 * level, QLatin1Char(' '));
+    if (level == 2)
+        return indent + shape(item) + QLatin1Char('\n');
+    QString out = indent + item->text(0) + QLatin1String("-~+").at(item->checkState(0)) + QLatin1Char('\n');
+    for (int i = 0; i < item->childCount(); ++i)
+        out += listing(item->child(i), level + 1);
+    return out;
+}
 
 // A catalogue line offered on pages 1 and 122 whatever the model holds. A caption "@Xnn text"
 // shows text and has the identifier @Xnn; the script "EMPTY" stands for none.
@@ -83,6 +120,7 @@ private slots:
     void applySelection();
     void menu();
     void iconsAndDump();
+    void demoProject();
 };
 
 void TestOutputTree::shapes_data()
@@ -150,7 +188,7 @@ void TestOutputTree::scriptLines_data()
 }
 
 // Depth first; unchecked items and items without a script of their own make no line; the caption
-// above a plot decides on UNIT.
+// above a plot decides on UNIT: its first record, d, also for e.
 void TestOutputTree::scriptLines()
 {
     QFETCH(int, progname);
@@ -159,7 +197,7 @@ void TestOutputTree::scriptLines()
                rec("T", "C", "b", "last-l", 0, 0, "All", "B $(LFNR)") +
                rec("T", "C", "c", "last", 0, 0, "All", "C") +
                rec("U", "D", "d", "last-l", 2, 0, "All", "D UNIT 1") +
-               rec("U", "D", "e", "last-l", 1, 0, "All", "E") + rec("V", "E", "f", "none", 0, 0, "All", "F"),
+               rec("U", "D", "e", "last-l", 2, 0, "All", "E") + rec("V", "E", "f", "none", 0, 0, "All", "F"),
            progname, {{1, 3, "3 : r3"}, {1, 5, "5+3: r5"}});
     t.at({0, 0, 1, 1})->setCheckState(0, Qt::Checked); // b, row 5
     t.at({0, 0, 2})->setCheckState(0, Qt::Checked);    // c has no rows and no line
@@ -228,6 +266,9 @@ void TestOutputTree::applySelection_data()
         << "Checked:@T01\nUnchecked:@T01   @C04\n"
         << "T1~(C1+(a+ b+(r1+ r2+ r3+) c+(r1+ r2+ r3+)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- "
            "q-))";
+    QTest::newRow("top level, then rows by number") << "Checked:@T01\nPartially:@T01   @C01   @P02 : 3,\n"
+                                                    << "T1~(C1~(a+ b~(r1- r2- r3+) c+(r1+ r2+ r3+)) C4+(f+)) "
+                                                       "T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
     QTest::newRow("rows by number, one unknown") << "Partially:@T01   @C01   @P02 : 3,7,\n"
                                                  << "T1~(C1~(a- b~(r1- r2- r3+) c-(r1- r2- r3-)) C4-(f-)) "
                                                     "T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
@@ -295,14 +336,45 @@ void TestOutputTree::iconsAndDump()
     for (int language : {0, 1}) {
         LanguageScope scope(language);
         Tree t(rec("@T01 T", "C", "a", "last-l") + rec("@T01 T", "C", "b"));
-        QCOMPARE(t.at({0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage(),
-                 rowIcon(language).pixmap(16, 16).toImage());
-        QVERIFY(t.at({0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage() !=
-                rowIcon(1 - language).pixmap(16, 16).toImage());
+        const QImage letters(QStringLiteral(TEST_DATA_DIR "/row-%1.png").arg(language == 0 ? "de" : "en"));
+        QCOMPARE(t.at({0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage().convertToFormat(QImage::Format_ARGB32),
+                 letters.convertToFormat(QImage::Format_ARGB32));
         for (int plot : {0, 1})
             QCOMPARE(t.at({0, 0, plot})->icon(0).pixmap(16, 15).toImage(),
                      plotIcon().pixmap(16, 15).toImage());
         QVERIFY(matchesReference(t.view->dumpText(), QStringLiteral("dump.txt")));
+    }
+}
+
+// The shipped catalogue on the results page of the demo project in its default choice, with the
+// project's load cases as rows (design combinations as rows of design cases).
+void TestOutputTree::demoProject()
+{
+    QTemporaryDir dir;
+    VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("demo.vkd")));
+    QVERIFY(doc.isValid());
+    writeDemoModel(doc.index());
+    std::vector<LoadcaseInformation> rows;
+    for (const auto& lc : vkd::dbo::readAll<vkd::dbo::LoadCaseRecord>(doc.index(), vkd::dbo::KeyLoadCases))
+        rows.push_back({lc.kind == 4 ? 2 : 1, lc.number,
+                        QStringLiteral("%1 : %2").arg(lc.number).arg(QString::fromUtf8(lc.title))});
+    catalogueList().clear();
+    catalogueLanguage = -1;
+    VKD_H_PluginParameter parameter(&doc);
+    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
+    tree.setUsedNumbersAndNames(rows);
+    QString text;
+    for (int i = 0; i < tree.topLevelItemCount(); ++i)
+        text += listing(tree.topLevelItem(i));
+    QVERIFY(matchesReference(text, QStringLiteral("demo-tree.txt")));
+    for (bool english : {true, false}) {
+        std::vector<QString> lines;
+        tree.collectScriptLines(lines, english);
+        text.clear();
+        for (const QString& line : lines)
+            text += line + QLatin1Char('\n');
+        QVERIFY(matchesReference(text, english ? QStringLiteral("demo-lines-en.txt")
+                                               : QStringLiteral("demo-lines-de.txt")));
     }
 }
 

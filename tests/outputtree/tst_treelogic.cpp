@@ -1,11 +1,13 @@
+// The logic of the output tree without widgets: which records the page and the model offer, and
+// the script lines of checked plots and rows.
 #include "modelfilter.h"
+#include "scriptlines.h"
+#include "testsupport.h"
 
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_dbo.h>
-#include <vkd_q.h>
 
-#include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -29,20 +31,36 @@ private:
     int m_kind;
 };
 
-// Holds only the one content.
-class OneContent : public FakeModel
+// A checked plot or row: the view of its plot, its load case, its text and the name in its
+// script ("PICT name" in English, "BILD name" in German).
+struct Entry
 {
-public:
-    explicit OneContent(int present) : FakeModel(none, 0), m_present(present) {}
-    bool holds(ModelContent content) const override { return int(content) == m_present; }
+    int viewKind;
+    int number;
+    const char* label;
+    const char* name;
+};
 
-private:
-    int m_present;
+struct Scenario
+{
+    const char* title;
+    int progname;
+    int kindOfSystem;
+    std::vector<Entry> entries;
+};
+
+const std::vector<Scenario> scenarios = {
+    {"stand-alone plot first, without view", 1, 0, {{0, 0, "", "A"}}},
+    {"view by kind of system 0", 1, 0, {{1, 0, "", "A"}, {3, 0, "", "B"}, {2, 0, "", "C"}}},
+    {"view by kind of system 20", 1, 20, {{1, 0, "", "A"}, {2, 0, "", "B"}}},
+    {"row 0 and negative rows", 1, 0, {{0, 0, "0 ", "A"}, {2, -1, "-1 ", "B"}, {0, -1, "-1 ", "C"}}},
+    {"split page", 122, 0, {{0, 12, "12+14: x", "A $(LFNR) $(LFNR) $(lfnr)"}, {0, 12, "12 : x", "B"}}},
+    {"double picture", 1, 0, {{3, 7, "7+9: x", "A"}, {0, 9, "9 : y", "B"}}},
 };
 
 } // namespace
 
-class TestModelFilter : public QObject
+class TestTreeLogic : public QObject
 {
     Q_OBJECT
 private slots:
@@ -53,9 +71,13 @@ private slots:
     void isRecordOffered_data();
     void isRecordOffered();
     void answersOfTheProjects();
+    void scriptLines_data();
+    void scriptLines();
+    void secondCase_data();
+    void secondCase();
 };
 
-void TestModelFilter::systemBit_data()
+void TestTreeLogic::systemBit_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<int>("bit");
@@ -65,14 +87,14 @@ void TestModelFilter::systemBit_data()
         QTest::addRow("kind %d", kind) << kind << bit;
 }
 
-void TestModelFilter::systemBit()
+void TestTreeLogic::systemBit()
 {
     QFETCH(int, kind);
     QFETCH(int, bit);
     QCOMPARE(vkd::plib::widgetgraphicaloutput::systemBit(kind), bit);
 }
 
-void TestModelFilter::hasContent_data()
+void TestTreeLogic::hasContent_data()
 {
     QTest::addColumn<QString>("tag");
     QTest::addColumn<int>("content");
@@ -86,15 +108,15 @@ void TestModelFilter::hasContent_data()
 }
 
 // Each tag asks its own question whatever its case; a text that is no tag needs nothing.
-void TestModelFilter::hasContent()
+void TestTreeLogic::hasContent()
 {
     QFETCH(QString, tag);
     QFETCH(int, content);
-    QCOMPARE(vkd::plib::widgetgraphicaloutput::hasContent(tag, OneContent(content)), true);
+    QVERIFY(vkd::plib::widgetgraphicaloutput::hasContent(tag, FakeModel(none, 0)));
     QCOMPARE(vkd::plib::widgetgraphicaloutput::hasContent(tag, FakeModel(content, 0)), content == none);
 }
 
-void TestModelFilter::isRecordOffered_data()
+void TestTreeLogic::isRecordOffered_data()
 {
     QTest::addColumn<int>("progname");
     QTest::addColumn<int>("systemMask");
@@ -115,7 +137,7 @@ void TestModelFilter::isRecordOffered_data()
     QTest::newRow("declared with case") << 3 << 0 << 0 << "Quad" << QStringList{"quad"} << false << false;
 }
 
-void TestModelFilter::isRecordOffered()
+void TestTreeLogic::isRecordOffered()
 {
     QFETCH(int, progname);
     QFETCH(int, systemMask);
@@ -138,7 +160,7 @@ void TestModelFilter::isRecordOffered()
 
 // A real project: design lines under any second key, cross sections from the second project and
 // everything else from the first.
-void TestModelFilter::answersOfTheProjects()
+void TestTreeLogic::answersOfTheProjects()
 {
     QTemporaryDir dir;
     VKD_H_ZOBDoc model(dir.filePath(QStringLiteral("model.vkd")));
@@ -162,5 +184,64 @@ void TestModelFilter::answersOfTheProjects()
     QVERIFY(!vkd::plib::widgetgraphicaloutput::hasContent(QStringLiteral("Node"), nullptr));
 }
 
-QTEST_GUILESS_MAIN(TestModelFilter)
-#include "tst_modelfilter.moc"
+void TestTreeLogic::scriptLines_data()
+{
+    QTest::addColumn<bool>("english");
+    QTest::addColumn<QString>("reference");
+    QTest::newRow("English keywords") << true << "scriptlines-en.txt";
+    QTest::newRow("German keywords") << false << "scriptlines-de.txt";
+}
+
+// The lines of the scenarios, each under its title.
+void TestTreeLogic::scriptLines()
+{
+    QFETCH(bool, english);
+    QFETCH(QString, reference);
+    QString text;
+    for (const Scenario& scenario : scenarios) {
+        ScriptContext context(english, scenario.progname, [&scenario] { return scenario.kindOfSystem; });
+        std::vector<QString> lines;
+        GraphicalOutputRecord caption;
+        caption.scriptEnglish = caption.scriptGerman = QStringLiteral("STRU");
+        for (const Entry& e : scenario.entries) {
+            GraphicalOutputRecord record;
+            record.viewKind = e.viewKind;
+            record.scriptEnglish = QStringLiteral("PICT ") + QLatin1String(e.name);
+            record.scriptGerman = QStringLiteral("BILD ") + QLatin1String(e.name);
+            const QString label = QLatin1String(e.label);
+            appendScriptLines(context, ScriptEntry{record, e.number, label, &caption}, lines);
+        }
+        text += QStringLiteral("== %1\n").arg(QLatin1String(scenario.title));
+        for (const QString& line : lines)
+            text += line + QLatin1Char('\n');
+    }
+    QVERIFY(matchesReference(text, reference));
+}
+
+void TestTreeLogic::secondCase_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<bool>("asks");
+    QTest::addColumn<int>("second");
+    QTest::newRow("two cases and a title") << "12+14: Wind" << true << 14;
+    QTest::newRow("one case and a title") << "12 : Wind" << false << 0;
+    QTest::newRow("exponent of a large number") << "1e+06 " << true << 6;
+    QTest::newRow("no colon: first five characters") << "123456+8" << false << 0;
+    QTest::newRow("plus in the title") << "3: 4+5" << false << 0;
+    QTest::newRow("second case no number") << "5+x: y" << true << -1;
+    QTest::newRow("nothing behind the plus") << "12+: a" << true << -1;
+}
+
+void TestTreeLogic::secondCase()
+{
+    QFETCH(QString, label);
+    QFETCH(bool, asks);
+    QFETCH(int, second);
+    int found = 0;
+    QCOMPARE(vkd::plib::widgetgraphicaloutput::secondCase(label, &found), asks);
+    if (asks)
+        QCOMPARE(found, second);
+}
+
+QTEST_GUILESS_MAIN(TestTreeLogic)
+#include "tst_treelogic.moc"
