@@ -4,6 +4,7 @@
 #include "DesignParameterTable.h"
 #include "PlibHostDialog.h"
 #include "designrecord.h"
+#include "reference.h"
 #include "rowtext.h"
 
 #include <VKD_H_ProjectDialogPage.h>
@@ -45,13 +46,12 @@ struct Project
 {
     explicit Project(bool demo = false)
     {
-        doc = std::make_unique<VKD_H_ZOBDoc>(path());
+        doc = std::make_unique<VKD_H_ZOBDoc>(dir.filePath(QStringLiteral("project.vkd")));
         if (demo) {
             writeDemoModel(doc->index());
             writeDemoDesign(*doc);
         }
     }
-    QString path() const { return dir.filePath(QStringLiteral("project.vkd")); }
     int index() const { return doc->index(); }
 
     QTemporaryDir dir;
@@ -108,25 +108,6 @@ QString columnText(const QTableWidget* table, int column)
     for (int r = 0; r < table->rowCount(); ++r)
         texts << oneLine(table->item(r, column)->text());
     return texts.join(QLatin1Char('|'));
-}
-
-// True if text equals the reference file under data/; otherwise the lines that differ are printed.
-bool matchesReference(const QString& text, const QString& fileName)
-{
-    QFile file(QStringLiteral(TEST_DATA_DIR "/") + fileName);
-    const QString expected = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    const QStringList e = expected.split(QLatin1Char('\n'));
-    const QStringList a = text.split(QLatin1Char('\n'));
-    const QString none = QStringLiteral("<none>");
-    QString diff;
-    for (int i = 0; i < qMax(e.size(), a.size()); ++i)
-        if (e.value(i, none) != a.value(i, none))
-            diff += QStringLiteral("line %1\n  - %2\n  + %3\n")
-                        .arg(i + 1)
-                        .arg(e.value(i, none), a.value(i, none));
-    if (!diff.isEmpty())
-        qWarning("%s differs (- reference, + actual):\n%s", qPrintable(fileName), qPrintable(diff));
-    return diff.isEmpty();
 }
 
 void clickCell(QTableWidget* table, int row, int column, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
