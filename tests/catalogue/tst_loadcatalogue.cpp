@@ -59,109 +59,103 @@ void offer(const QTemporaryDir& dir, const QByteArray& text)
 class TestLoadCatalogue : public QObject
 {
     Q_OBJECT
+
 private slots:
-    void init();
-    void failures_data();
-    void failures();
-    void readsOncePerLanguage();
+
+    void init()
+    {
+        catalogueList().clear();
+        catalogueLanguage = -1;
+    }
+
+    void failures_data()
+    {
+        QTest::addColumn<bool>("onSearchPath");
+        QTest::addColumn<bool>("german");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("not on the search path") << false << false << "File not found"
+                                                << "File graphicaloutput.data not found";
+        QTest::newRow("found but not readable, German")
+            << true << true << "Datei konnte nicht geöffnet werden"
+            << "Die Datei %1 konnte nicht geöffnet werden";
+    }
+
+    // A failed load leaves the list of an earlier one and its language, and the next load tries
+    // again.
+    void failures()
+    {
+        QFETCH(bool, onSearchPath);
+        QFETCH(bool, german);
+        QFETCH(QString, title);
+        QFETCH(QString, text);
+        QTemporaryDir good;
+        offer(good, twoPlots);
+        QVERIFY(loadCatalogue(nullptr, 0));
+        QCOMPARE(catalogueList().size(), size_t(2));
+
+        QTemporaryDir bad;
+        const QString path = bad.filePath(QStringLiteral("graphicaloutput.data"));
+        offer(bad, twoPlots);
+        if (!onSearchPath) {
+            QVERIFY(QFile::remove(path));
+            if (!vkd_lib_searchpath("graphicaloutput.data", 3).empty())
+                QSKIP("an installed catalogue is on the search path");
+        } else {
+            // rwxr-xr-x, so that another user may search the folder, and the file unreadable
+            QFile::setPermissions(bad.path(), QFile::Permissions(0x7055));
+            QFile::setPermissions(path, QFile::Permissions());
+        }
+        QTranslator translator;
+        if (german) {
+            QVERIFY(translator.load(QStringLiteral(TRANSLATIONS)));
+            QCoreApplication::installTranslator(&translator);
+        }
+        QWidget parent;
+        BoxAnswerer answerer;
+        // Root reads a file without read permission unless its file system user is another one.
+        const int savedUser = onSearchPath && geteuid() == 0 ? setfsuid(65534) : -1;
+        const bool readable = onSearchPath && QFile(path).open(QIODevice::ReadOnly);
+        const bool first = loadCatalogue(&parent, 1);
+        const bool second = loadCatalogue(&parent, 1);
+        if (savedUser >= 0)
+            setfsuid(savedUser);
+        if (readable)
+            QSKIP("this process reads a file without read permission");
+        QVERIFY(!first && !second);
+        const QStringList box{title, onSearchPath ? text.arg(path) : text,
+                              QString::number(QMessageBox::Critical)};
+        QCOMPARE(answerer.boxes, (QList<QStringList>{box, box}));
+        QCOMPARE(answerer.parents, (QList<QWidget*>{&parent, &parent}));
+        QCOMPARE(catalogueList().size(), size_t(2));
+        QCOMPARE(catalogueLanguage, 0);
+    }
+
+    // A catalogue of comments only loads as an empty list. The file is read once per language,
+    // and each new language appends to the list.
+    void readsOncePerLanguage()
+    {
+        QTemporaryDir dir;
+        BoxAnswerer answerer;
+        offer(dir, "// nothing but comments\n//1|0|0|a|b|c|Node|0|last|1|1| |0|G|E\n");
+        QVERIFY(loadCatalogue(nullptr, 1));
+        QCOMPARE(catalogueLanguage, 1);
+        offer(dir, twoPlots);
+        QVERIFY(loadCatalogue(nullptr, 1));
+        QVERIFY(catalogueList().empty());
+
+        for (int language : {0, 1}) {
+            LanguageScope desktop(language);
+            QVERIFY(loadCatalogue(nullptr, language));
+        }
+        QStringList captions;
+        for (const GraphicalOutputRecord& r : catalogueList())
+            captions << r.title3;
+        QCOMPARE(captions, (QStringList{"Basis global X", "Dach", "Base global X", "Caret"}));
+        QCOMPARE(catalogueLanguage, 1);
+        QCOMPARE(answerer.boxes.size(), 0);
+    }
 };
-
-void TestLoadCatalogue::init()
-{
-    catalogueList().clear();
-    catalogueLanguage = -1;
-}
-
-void TestLoadCatalogue::failures_data()
-{
-    QTest::addColumn<bool>("onSearchPath");
-    QTest::addColumn<bool>("german");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("not on the search path") << false << false << "File not found"
-                                            << "File graphicaloutput.data not found";
-    QTest::newRow("found but not readable") << true << false << "Couldn't open file"
-                                            << "Failed to open file %1";
-    QTest::newRow("not on the search path, German") << false << true << "Datei nicht gefunden"
-                                                    << "Die Datei graphicaloutput.data wurde nicht gefunden";
-    QTest::newRow("found but not readable, German") << true << true << "Datei konnte nicht geöffnet werden"
-                                                    << "Die Datei %1 konnte nicht geöffnet werden";
-}
-
-// A failed load leaves the list of an earlier one and its language, and the next load tries
-// again.
-void TestLoadCatalogue::failures()
-{
-    QFETCH(bool, onSearchPath);
-    QFETCH(bool, german);
-    QFETCH(QString, title);
-    QFETCH(QString, text);
-    QTemporaryDir good;
-    offer(good, twoPlots);
-    QVERIFY(loadCatalogue(nullptr, 0));
-    QCOMPARE(catalogueList().size(), size_t(2));
-
-    QTemporaryDir bad;
-    const QString path = bad.filePath(QStringLiteral("graphicaloutput.data"));
-    offer(bad, twoPlots);
-    if (!onSearchPath) {
-        QVERIFY(QFile::remove(path));
-        if (!vkd_lib_searchpath("graphicaloutput.data", 3).empty())
-            QSKIP("an installed catalogue is on the search path");
-    } else {
-        // rwxr-xr-x, so that another user may search the folder, and the file unreadable
-        QFile::setPermissions(bad.path(), QFile::Permissions(0x7055));
-        QFile::setPermissions(path, QFile::Permissions());
-    }
-    QTranslator translator;
-    if (german) {
-        QVERIFY(translator.load(QStringLiteral(TRANSLATIONS)));
-        QCoreApplication::installTranslator(&translator);
-    }
-    QWidget parent;
-    BoxAnswerer answerer;
-    // Root reads a file without read permission unless its file system user is another one.
-    const int savedUser = onSearchPath && geteuid() == 0 ? setfsuid(65534) : -1;
-    const bool readable = onSearchPath && QFile(path).open(QIODevice::ReadOnly);
-    const bool first = loadCatalogue(&parent, 1);
-    const bool second = loadCatalogue(&parent, 1);
-    if (savedUser >= 0)
-        setfsuid(savedUser);
-    if (readable)
-        QSKIP("this process reads a file without read permission");
-    QVERIFY(!first && !second);
-    const QStringList box{title, onSearchPath ? text.arg(path) : text,
-                          QString::number(QMessageBox::Critical)};
-    QCOMPARE(answerer.boxes, (QList<QStringList>{box, box}));
-    QCOMPARE(answerer.parents, (QList<QWidget*>{&parent, &parent}));
-    QCOMPARE(catalogueList().size(), size_t(2));
-    QCOMPARE(catalogueLanguage, 0);
-}
-
-// A catalogue of comments only loads as an empty list. The file is read once per language,
-// and each new language appends to the list.
-void TestLoadCatalogue::readsOncePerLanguage()
-{
-    QTemporaryDir dir;
-    BoxAnswerer answerer;
-    offer(dir, "// nothing but comments\n//1|0|0|a|b|c|Node|0|last|1|1| |0|G|E\n");
-    QVERIFY(loadCatalogue(nullptr, 1));
-    QCOMPARE(catalogueLanguage, 1);
-    offer(dir, twoPlots);
-    QVERIFY(loadCatalogue(nullptr, 1));
-    QVERIFY(catalogueList().empty());
-
-    for (int language : {0, 1}) {
-        LanguageScope desktop(language);
-        QVERIFY(loadCatalogue(nullptr, language));
-    }
-    QStringList captions;
-    for (const GraphicalOutputRecord& r : catalogueList())
-        captions << r.title3;
-    QCOMPARE(captions, (QStringList{"Basis global X", "Dach", "Base global X", "Caret"}));
-    QCOMPARE(catalogueLanguage, 1);
-    QCOMPARE(answerer.boxes.size(), 0);
-}
 
 QTEST_MAIN(TestLoadCatalogue)
 #include "tst_loadcatalogue.moc"

@@ -6,13 +6,10 @@
 
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
-#include <VKD_QT_Menu.h>
 #include <vkd_dbo.h>
 
 #include <QApplication>
 #include <QTemporaryDir>
-#include <QTimer>
-#include <QTranslator>
 #include <QtTest>
 
 #include <memory>
@@ -108,275 +105,189 @@ const QByteArray choiceCatalogue =
 class TestOutputTree : public QObject
 {
     Q_OBJECT
+
 private slots:
-    void shapes_data();
-    void shapes();
-    void choiceThroughRebuilds();
-    void scriptLines_data();
-    void scriptLines();
-    void nothingThere();
-    void selectionRoundTrip();
-    void applySelection_data();
-    void applySelection();
-    void menu();
-    void iconsAndDump();
-    void demoProject();
-};
 
-void TestOutputTree::shapes_data()
-{
-    QTest::addColumn<QByteArray>("catalogue");
-    QTest::addColumn<QString>("shape");
-    QTest::newRow("shared captions, same plot twice")
-        << rec("T", "C", "a") + rec("T", "C", "b") + rec("T", "C", "b") << "T+(C+(a+ b+ b+))";
-    QTest::newRow("plot with its parent's caption takes later records")
-        << rec("T", "C", "C", "last-l") + rec("T", "C", "b", "last-l", 1)
-        << "T~(C~(C~(r1+ r2- r3- r1- r2- r3-)))";
-    QTest::newRow("captions in order of first appearance")
-        << rec("T", "C", "a") + rec("U", "D", "b") + rec("T", "E", "c") + rec("T", "C", "d")
-        << "T+(C+(a+ d+) E+(c+)) U+(D+(b+))";
-    QTest::newRow("first row by default")
-        << rec("T", "C", "a", "last-l", 1) + rec("T", "C", "b") << "T~(C~(a~(r1+ r2- r3-) b+))";
-    QTest::newRow("all rows by default, 2") << rec("T", "C", "a", "last-l", 2) << "T+(C+(a+(r1+ r2+ r3+)))";
-    QTest::newRow("all rows by default, 3") << rec("T", "C", "a", "last-l", 3) << "T+(C+(a+(r1+ r2+ r3+)))";
-    QTest::newRow("combinations take the load case rows")
-        << rec("T", "C", "a", "supp-c") << "T-(C-(a-(r1- r2- r3-)))";
-    QTest::newRow("design cases take the rows of kind 2")
-        << rec("T", "C", "a", "desi-e", 2) << "T+(C+(a+(e1+)))";
-    QTest::newRow("a word without suffix takes no row") << rec("T", "C", "a", "last", 2) << "T-(C-(a-))";
-    QTest::newRow("plot without script goes") << rec("T", "C", "a", "none", 0, 0, "All", "EMPTY") << "T-(C-)";
-    QTest::newRow("absent content") << rec("T", "C", "a", "none", 0, 0, "Quad") << "No Entries in database!";
-    QTest::newRow("empty caption") << rec("T", "C", "@ND1") << "No Entries in database!";
-}
-
-void TestOutputTree::shapes()
-{
-    QFETCH(QByteArray, catalogue);
-    QFETCH(QString, shape);
-    QCOMPARE(Tree(catalogue).shape(), shape);
-}
-
-// Declared tags bring their plots in, as often as declared, and go all at once; such a rebuild
-// keeps the choice only after a selection was applied. The same rows change nothing, others
-// bring the defaults back.
-void TestOutputTree::choiceThroughRebuilds()
-{
-    Tree t(rec("@T01 T", "@C01 C", "@P01 a") + rec("@T01 T", "@C01 C", "@P02 b", "last-l") +
-           rec("@T01 T", "@C01 C", "@P03 q", "none", 0, 0, "Quad"));
-    t.at({0, 0, 0})->setCheckState(0, Qt::Unchecked);
-    t.view->additionalData(QStringLiteral("Quad"), true);
-    t.view->additionalData(QStringLiteral("Quad"), true);
-    QCOMPARE(t.shape(), QStringLiteral("T~(C~(a+ b-(r1- r2- r3-) q+))"));
-    t.view->applySelection(t.view->selectionText());
-    t.at({0, 0, 0})->setCheckState(0, Qt::Unchecked);
-    t.at({0, 0, 1, 1})->setCheckState(0, Qt::Checked);
-    t.view->additionalData(QStringLiteral("Quad"), false);
-    const QString chosen = QStringLiteral("T~(C~(a- b~(r1- r2+ r3-)))");
-    QCOMPARE(t.shape(), chosen);
-    t.view->setUsedNumbersAndNames(threeRows);
-    QCOMPARE(t.shape(), chosen);
-    t.view->setUsedNumbersAndNames({{1, 1, "r1"}});
-    QCOMPARE(t.shape(), QStringLiteral("T~(C~(a+ b-(r1-)))"));
-}
-
-void TestOutputTree::scriptLines_data()
-{
-    QTest::addColumn<int>("progname");
-    QTest::addColumn<QString>("reference");
-    QTest::newRow("results page") << 1 << "treelines.txt";
-    QTest::newRow("split page") << 122 << "treelines-122.txt";
-}
-
-// Depth first; unchecked items and items without a script of their own make no line; the caption
-// above a plot decides on UNIT: its first record, d, also for e.
-void TestOutputTree::scriptLines()
-{
-    QFETCH(int, progname);
-    QFETCH(QString, reference);
-    Tree t(rec("T", "C", "a", "none", 0, 2, "All", "A") +
-               rec("T", "C", "b", "last-l", 0, 0, "All", "B $(LFNR)") +
-               rec("T", "C", "c", "last", 0, 0, "All", "C") +
-               rec("U", "D", "d", "last-l", 2, 0, "All", "D UNIT 1") +
-               rec("U", "D", "e", "last-l", 2, 0, "All", "E") + rec("V", "E", "f", "none", 0, 0, "All", "F"),
-           progname, {{1, 3, "3 : r3"}, {1, 5, "5+3: r5"}});
-    t.at({0, 0, 1, 1})->setCheckState(0, Qt::Checked); // b, row 5
-    t.at({0, 0, 2})->setCheckState(0, Qt::Checked);    // c has no rows and no line
-    t.at({2, 0, 0})->setCheckState(0, Qt::Unchecked);  // f
-    std::vector<QString> lines;
-    const int count = t.view->collectScriptLines(lines, true);
-    QCOMPARE(count, int(lines.size()));
-    QString text;
-    for (const QString& line : lines)
-        text += line + QLatin1Char('\n');
-    QVERIFY(matchesReference(text, reference));
-}
-
-void TestOutputTree::nothingThere()
-{
-    Tree t{QByteArray()};
-    std::vector<QString> lines{QStringLiteral("stale")};
-    QCOMPARE(t.view->collectScriptLines(lines, false), 0);
-    QVERIFY(lines.empty());
-    QCOMPARE(t.view->selectionText(), QStringLiteral("\n"));
-    t.view->clear();
-    QCOMPARE(t.view->collectScriptLines(lines, true), 0);
-}
-
-// The choice goes to text and comes back; a plot stored as checked takes new rows checked, one
-// stored by numbers takes them unchecked.
-void TestOutputTree::selectionRoundTrip()
-{
-    Tree t(choiceCatalogue);
-    t.at({0, 0, 1, 0})->setCheckState(0, Qt::Checked);
-    t.at({0, 0, 1, 2})->setCheckState(0, Qt::Checked);
-    t.at({1, 0})->setCheckState(0, Qt::Unchecked);
-    t.at({2, 0, 0})->setCheckState(0, Qt::PartiallyChecked);
-    QVERIFY(matchesReference(t.view->selectionText(), QStringLiteral("selection.txt")));
-
-    t.at({2, 0, 0})->setCheckState(0, Qt::Checked);
-    const QString chosen = t.shape();
-    const QString text = t.view->selectionText();
-    t.view->rebuild(true);
-    t.view->applySelection(text);
-    QCOMPARE(t.shape(), chosen);
-    std::vector<LoadcaseInformation> fourRows = threeRows;
-    fourRows.push_back({1, 4, "r4"});
-    t.view->setUsedNumbersAndNames(fourRows);
-    t.view->applySelection(text);
-    QCOMPARE(shape(t.at({0, 0})), QStringLiteral("C1~(a+ b~(r1+ r2- r3+ r4-) c+(r1+ r2+ r3+ r4+))"));
-}
-
-void TestOutputTree::applySelection_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("shape");
-    const QString none =
-        "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-    QTest::newRow("empty text keeps the choice") << "\n\n"
-                                                 << "T1~(C1~(a+ b-(r1- r2- r3-) c+(r1+ r2+ r3+)) C4+(f+)) "
-                                                    "T2+(C2+(d+ g+)) T3+(C3+(e+)) T4+(C5+(p+ q+))";
-    QTest::newRow("a word alone still clears the choice") << "Checked\n" << none;
-    QTest::newRow("unknown identifier") << "Checked:@T09\n" << none;
-    QTest::newRow("unknown word") << "Selected:@T01\n" << none;
-    QTest::newRow("identifier with a colon is lost") << "Checked:@T02   @C02   @X:1\n" << none;
-    QTest::newRow("top level carries down") << "Checked:@T02\n"
-                                            << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) "
-                                               "T2+(C2+(d+ g+)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-    QTest::newRow("top level, then one caption unchecked")
-        << "Checked:@T01\nUnchecked:@T01   @C04\n"
-        << "T1~(C1+(a+ b+(r1+ r2+ r3+) c+(r1+ r2+ r3+)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- "
-           "q-))";
-    QTest::newRow("top level, then rows by number") << "Checked:@T01\nPartially:@T01   @C01   @P02 : 3,\n"
-                                                    << "T1~(C1~(a+ b~(r1- r2- r3+) c+(r1+ r2+ r3+)) C4+(f+)) "
-                                                       "T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-    QTest::newRow("rows by number, one unknown") << "Partially:@T01   @C01   @P02 : 3,7,\n"
-                                                 << "T1~(C1~(a- b~(r1- r2- r3+) c-(r1- r2- r3-)) C4-(f-)) "
-                                                    "T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-    QTest::newRow("only numbers no row has") << "Partially:@T01   @C01   @P02 : 7,\n" << none;
-    QTest::newRow("plain captions find the last plot")
-        << "Checked:@T04   @C05    003\n"
-        << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4~(C5~(p- "
-           "q+))";
-}
-
-void TestOutputTree::applySelection()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, shape);
-    Tree t(choiceCatalogue);
-    t.view->applySelection(text);
-    QCOMPARE(t.shape(), shape);
-}
-
-// The entries in order, German from the translation; they open and close levels and leave the
-// choice alone; the menu comes up on request.
-void TestOutputTree::menu()
-{
-    QTranslator translator;
-    QVERIFY(translator.load(QStringLiteral(TRANSLATIONS)));
-    QCoreApplication::installTranslator(&translator);
-    Tree t(rec("T", "C", "a", "last-l", 1));
-    QCoreApplication::removeTranslator(&translator);
-    QStringList texts;
-    const QList<QAction*> actions = t.view->popupHandler().menu()->actions();
-    for (const QAction* action : actions)
-        texts << (action->isSeparator() ? QStringLiteral("-") : action->text());
-    QCOMPARE(texts.mid(2).join(QLatin1Char('|')),
-             QStringLiteral("Bilder aufklappen|-|Lastfälle aufklappen|-|Lastfälle zuklappen"));
-
-    const QString chosen = t.shape();
-    auto expanded = [&t] {
-        return QString::number(t.at({0})->isExpanded()) + QString::number(t.at({0, 0})->isExpanded()) +
-               QString::number(t.at({0, 0, 0})->isExpanded());
-    };
-    QCOMPARE(expanded(), QStringLiteral("110"));
-    const std::pair<int, const char*> steps[] = {{4, "111"}, {6, "110"}, {1, "000"}, {2, "110"}};
-    for (const auto& step : steps) {
-        actions.at(step.first)->trigger();
-        QCOMPARE(expanded(), QLatin1String(step.second));
+    void shapes_data()
+    {
+        QTest::addColumn<QByteArray>("catalogue");
+        QTest::addColumn<QString>("shape");
+        QTest::newRow("shared captions, same plot twice")
+            << rec("T", "C", "a") + rec("T", "C", "b") + rec("T", "C", "b") << "T+(C+(a+ b+ b+))";
+        QTest::newRow("plot with its parent's caption takes later records")
+            << rec("T", "C", "C", "last-l") + rec("T", "C", "b", "last-l", 1)
+            << "T~(C~(C~(r1+ r2- r3- r1- r2- r3-)))";
+        QTest::newRow("captions in order of first appearance")
+            << rec("T", "C", "a") + rec("U", "D", "b") + rec("T", "E", "c") + rec("T", "C", "d")
+            << "T+(C+(a+ d+) E+(c+)) U+(D+(b+))";
+        QTest::newRow("first row by default")
+            << rec("T", "C", "a", "last-l", 1) + rec("T", "C", "b") << "T~(C~(a~(r1+ r2- r3-) b+))";
+        QTest::newRow("combinations take the load case rows")
+            << rec("T", "C", "a", "supp-c") << "T-(C-(a-(r1- r2- r3-)))";
+        QTest::newRow("design cases take the rows of kind 2")
+            << rec("T", "C", "a", "desi-e", 2) << "T+(C+(a+(e1+)))";
+        QTest::newRow("plot without script goes")
+            << rec("T", "C", "a", "none", 0, 0, "All", "EMPTY") << "T-(C-)";
+        QTest::newRow("absent content")
+            << rec("T", "C", "a", "none", 0, 0, "Quad") << "No Entries in database!";
+        QTest::newRow("empty caption") << rec("T", "C", "@ND1") << "No Entries in database!";
     }
-    QCOMPARE(t.shape(), chosen);
 
-    t.view->show();
-    QWidget* shown = nullptr;
-    QTimer::singleShot(0, [&shown] {
-        if ((shown = QApplication::activePopupWidget()))
-            shown->close();
-    });
-    emit t.view->customContextMenuRequested(QPoint(5, 5));
-    QCOMPARE(shown, static_cast<QWidget*>(t.view->popupHandler().menu()));
-}
-
-// Rows show LF on a German desktop and LC on any other, plots their card; the dump shows the
-// identifiers and the first row of a plot.
-void TestOutputTree::iconsAndDump()
-{
-    QCOMPARE(plotIcon().availableSizes(), QList<QSize>{QSize(16, 15)});
-    QCOMPARE(closeIcon().availableSizes(), QList<QSize>{QSize(16, 16)});
-    for (int language : {0, 1}) {
-        LanguageScope scope(language);
-        Tree t(rec("@T01 T", "C", "a", "last-l") + rec("@T01 T", "C", "b"));
-        const QImage letters(QStringLiteral(TEST_DATA_DIR "/row-%1.png").arg(language == 0 ? "de" : "en"));
-        QCOMPARE(t.at({0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage().convertToFormat(QImage::Format_ARGB32),
-                 letters.convertToFormat(QImage::Format_ARGB32));
-        for (int plot : {0, 1})
-            QCOMPARE(t.at({0, 0, plot})->icon(0).pixmap(16, 15).toImage(),
-                     plotIcon().pixmap(16, 15).toImage());
-        QVERIFY(matchesReference(t.view->dumpText(), QStringLiteral("dump.txt")));
+    void shapes()
+    {
+        QFETCH(QByteArray, catalogue);
+        QFETCH(QString, shape);
+        QCOMPARE(Tree(catalogue).shape(), shape);
     }
-}
 
-// The shipped catalogue on the results page of the demo project in its default choice, with the
-// project's load cases as rows (design combinations as rows of design cases).
-void TestOutputTree::demoProject()
-{
-    QTemporaryDir dir;
-    VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("demo.vkd")));
-    QVERIFY(doc.isValid());
-    writeDemoModel(doc.index());
-    std::vector<LoadcaseInformation> rows;
-    for (const auto& lc : vkd::dbo::readAll<vkd::dbo::LoadCaseRecord>(doc.index(), vkd::dbo::KeyLoadCases))
-        rows.push_back({lc.kind == 4 ? 2 : 1, lc.number,
-                        QStringLiteral("%1 : %2").arg(lc.number).arg(QString::fromUtf8(lc.title))});
-    catalogueList().clear();
-    catalogueLanguage = -1;
-    VKD_H_PluginParameter parameter(&doc);
-    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-    tree.setUsedNumbersAndNames(rows);
-    QString text;
-    for (int i = 0; i < tree.topLevelItemCount(); ++i)
-        text += listing(tree.topLevelItem(i));
-    QVERIFY(matchesReference(text, QStringLiteral("demo-tree.txt")));
-    for (bool english : {true, false}) {
+    void scriptLines_data()
+    {
+        QTest::addColumn<int>("progname");
+        QTest::addColumn<QString>("reference");
+        QTest::newRow("results page") << 1 << "treelines.txt";
+        QTest::newRow("split page") << 122 << "treelines-122.txt";
+    }
+
+    // Depth first; unchecked items and items without a script of their own make no line; the caption
+    // above a plot decides on UNIT: its first record, d, also for e.
+    void scriptLines()
+    {
+        QFETCH(int, progname);
+        QFETCH(QString, reference);
+        Tree t(rec("T", "C", "a", "none", 0, 2, "All", "A") +
+                   rec("T", "C", "b", "last-l", 0, 0, "All", "B $(LFNR)") +
+                   rec("T", "C", "c", "last", 0, 0, "All", "C") +
+                   rec("U", "D", "d", "last-l", 2, 0, "All", "D UNIT 1") +
+                   rec("U", "D", "e", "last-l", 2, 0, "All", "E") +
+                   rec("V", "E", "f", "none", 0, 0, "All", "F"),
+               progname, {{1, 3, "3 : r3"}, {1, 5, "5+3: r5"}});
+        t.at({0, 0, 1, 1})->setCheckState(0, Qt::Checked); // b, row 5
+        t.at({0, 0, 2})->setCheckState(0, Qt::Checked);    // c has no rows and no line
+        t.at({2, 0, 0})->setCheckState(0, Qt::Unchecked);  // f
         std::vector<QString> lines;
-        tree.collectScriptLines(lines, english);
-        text.clear();
+        const int count = t.view->collectScriptLines(lines, true);
+        QCOMPARE(count, int(lines.size()));
+        QString text;
         for (const QString& line : lines)
             text += line + QLatin1Char('\n');
-        QVERIFY(matchesReference(text, english ? QStringLiteral("demo-lines-en.txt")
-                                               : QStringLiteral("demo-lines-de.txt")));
+        QVERIFY(matchesReference(text, reference));
     }
-}
+
+    // The choice goes to text and comes back; a plot stored as checked takes new rows checked, one
+    // stored by numbers takes them unchecked.
+    void selectionRoundTrip()
+    {
+        Tree t(choiceCatalogue);
+        t.at({0, 0, 1, 0})->setCheckState(0, Qt::Checked);
+        t.at({0, 0, 1, 2})->setCheckState(0, Qt::Checked);
+        t.at({1, 0})->setCheckState(0, Qt::Unchecked);
+        t.at({2, 0, 0})->setCheckState(0, Qt::PartiallyChecked);
+        QVERIFY(matchesReference(t.view->selectionText(), QStringLiteral("selection.txt")));
+
+        t.at({2, 0, 0})->setCheckState(0, Qt::Checked);
+        const QString chosen = t.shape();
+        const QString text = t.view->selectionText();
+        t.view->rebuild(true);
+        t.view->applySelection(text);
+        QCOMPARE(t.shape(), chosen);
+        std::vector<LoadcaseInformation> fourRows = threeRows;
+        fourRows.push_back({1, 4, "r4"});
+        t.view->setUsedNumbersAndNames(fourRows);
+        t.view->applySelection(text);
+        QCOMPARE(shape(t.at({0, 0})), QStringLiteral("C1~(a+ b~(r1+ r2- r3+ r4-) c+(r1+ r2+ r3+ r4+))"));
+    }
+
+    void applySelection_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("shape");
+        const QString none = "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) "
+                             "T3-(C3-(e-)) T4-(C5-(p- q-))";
+        QTest::newRow("empty text keeps the choice")
+            << "\n\n"
+            << "T1~(C1~(a+ b-(r1- r2- r3-) c+(r1+ r2+ r3+)) C4+(f+)) "
+               "T2+(C2+(d+ g+)) T3+(C3+(e+)) T4+(C5+(p+ q+))";
+        QTest::newRow("unknown identifier") << "Checked:@T09\n" << none;
+        QTest::newRow("top level carries down") << "Checked:@T02\n"
+                                                << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) "
+                                                   "T2+(C2+(d+ g+)) T3-(C3-(e-)) T4-(C5-(p- q-))";
+        QTest::newRow("top level, then rows by number")
+            << "Checked:@T01\nPartially:@T01   @C01   @P02 : 3,\n"
+            << "T1~(C1~(a+ b~(r1- r2- r3+) c+(r1+ r2+ r3+)) C4+(f+)) "
+               "T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
+        QTest::newRow("rows by number, one unknown")
+            << "Partially:@T01   @C01   @P02 : 3,7,\n"
+            << "T1~(C1~(a- b~(r1- r2- r3+) c-(r1- r2- r3-)) C4-(f-)) "
+               "T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
+        QTest::newRow("plain captions find the last plot")
+            << "Checked:@T04   @C05    003\n"
+            << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4~(C5~(p- "
+               "q+))";
+    }
+
+    void applySelection()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, shape);
+        Tree t(choiceCatalogue);
+        t.view->applySelection(text);
+        QCOMPARE(t.shape(), shape);
+    }
+
+    // Rows show LF on a German desktop and LC on any other, plots their card; the dump shows the
+    // identifiers and the first row of a plot.
+    void iconsAndDump()
+    {
+        QCOMPARE(plotIcon().availableSizes(), QList<QSize>{QSize(16, 15)});
+        QCOMPARE(closeIcon().availableSizes(), QList<QSize>{QSize(16, 16)});
+        for (int language : {0, 1}) {
+            LanguageScope scope(language);
+            Tree t(rec("@T01 T", "C", "a", "last-l") + rec("@T01 T", "C", "b"));
+            const QImage letters(
+                QStringLiteral(TEST_DATA_DIR "/row-%1.png").arg(language == 0 ? "de" : "en"));
+            QCOMPARE(
+                t.at({0, 0, 0, 0})->icon(0).pixmap(16, 16).toImage().convertToFormat(QImage::Format_ARGB32),
+                letters.convertToFormat(QImage::Format_ARGB32));
+            for (int plot : {0, 1})
+                QCOMPARE(t.at({0, 0, plot})->icon(0).pixmap(16, 15).toImage(),
+                         plotIcon().pixmap(16, 15).toImage());
+            QVERIFY(matchesReference(t.view->dumpText(), QStringLiteral("dump.txt")));
+        }
+    }
+
+    // The shipped catalogue on the results page of the demo project in its default choice, with the
+    // project's load cases as rows (design combinations as rows of design cases).
+    void demoProject()
+    {
+        QTemporaryDir dir;
+        VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("demo.vkd")));
+        QVERIFY(doc.isValid());
+        writeDemoModel(doc.index());
+        std::vector<LoadcaseInformation> rows;
+        for (const auto& lc :
+             vkd::dbo::readAll<vkd::dbo::LoadCaseRecord>(doc.index(), vkd::dbo::KeyLoadCases))
+            rows.push_back({lc.kind == 4 ? 2 : 1, lc.number,
+                            QStringLiteral("%1 : %2").arg(lc.number).arg(QString::fromUtf8(lc.title))});
+        catalogueList().clear();
+        catalogueLanguage = -1;
+        VKD_H_PluginParameter parameter(&doc);
+        GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
+        tree.setUsedNumbersAndNames(rows);
+        QString text;
+        for (int i = 0; i < tree.topLevelItemCount(); ++i)
+            text += listing(tree.topLevelItem(i));
+        QVERIFY(matchesReference(text, QStringLiteral("demo-tree.txt")));
+        for (bool english : {true, false}) {
+            std::vector<QString> lines;
+            tree.collectScriptLines(lines, english);
+            text.clear();
+            for (const QString& line : lines)
+                text += line + QLatin1Char('\n');
+            QVERIFY(matchesReference(text, english ? QStringLiteral("demo-lines-en.txt")
+                                                   : QStringLiteral("demo-lines-de.txt")));
+        }
+    }
+};
 
 QTEST_MAIN(TestOutputTree)
 #include "tst_outputtree.moc"

@@ -4,18 +4,11 @@
 #include "scriptlines.h"
 #include "testsupport.h"
 
-#include <VKD_H_PluginParameter.h>
-#include <VKD_H_ZOBDoc.h>
-#include <vkd_dbo.h>
-
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace vkd::plib::widgetgraphicaloutput;
 
 namespace {
-
-constexpr int none = -1;
 
 // A model that holds everything but one content and counts the questions about its kind.
 class FakeModel : public ModelAnswers
@@ -63,185 +56,126 @@ const std::vector<Scenario> scenarios = {
 class TestTreeLogic : public QObject
 {
     Q_OBJECT
+
 private slots:
-    void systemBit_data();
-    void systemBit();
-    void hasContent_data();
-    void hasContent();
-    void isRecordOffered_data();
-    void isRecordOffered();
-    void answersOfTheProjects();
-    void scriptLines_data();
-    void scriptLines();
-    void secondCase_data();
-    void secondCase();
-};
 
-void TestTreeLogic::systemBit_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("bit");
-    const std::pair<int, int> table[] = {{0, 8},  {-9, 8}, {10, 1}, {13, 2},  {14, 1},  {19, 2},
-                                         {25, 8}, {35, 4}, {45, 0}, {50, 15}, {-10, 15}};
-    for (const auto& [kind, bit] : table)
-        QTest::addRow("kind %d", kind) << kind << bit;
-}
-
-void TestTreeLogic::systemBit()
-{
-    QFETCH(int, kind);
-    QFETCH(int, bit);
-    QCOMPARE(vkd::plib::widgetgraphicaloutput::systemBit(kind), bit);
-}
-
-void TestTreeLogic::hasContent_data()
-{
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<int>("content");
-    const char* const tags[] = {"Node", "QUAD", "Boun", "Beam", "dsln", "Trus", "Sir",  "Gpt", "Gln",
-                                "Gar",  "Axis", "Cabl", "Spri", "Bric", "Qten", "Bten", "Sect"};
-    for (int c = 0; c < int(std::size(tags)); ++c)
-        QTest::newRow(tags[c]) << tags[c] << c;
-    QTest::newRow("unknown word") << "Foo" << none;
-    QTest::newRow("blank") << " " << none;
-    QTest::newRow("a tag with more behind it") << "Nodes" << none;
-}
-
-// Each tag asks its own question whatever its case; a text that is no tag needs nothing.
-void TestTreeLogic::hasContent()
-{
-    QFETCH(QString, tag);
-    QFETCH(int, content);
-    QVERIFY(vkd::plib::widgetgraphicaloutput::hasContent(tag, FakeModel(none, 0)));
-    QCOMPARE(vkd::plib::widgetgraphicaloutput::hasContent(tag, FakeModel(content, 0)), content == none);
-}
-
-void TestTreeLogic::isRecordOffered_data()
-{
-    QTest::addColumn<int>("progname");
-    QTest::addColumn<int>("systemMask");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<QStringList>("additional");
-    QTest::addColumn<bool>("offered");
-    QTest::addColumn<bool>("kindAsked");
-    // The record is offered on the pages 3, 0 and 5; the model holds everything but quads.
-    QTest::newRow("page of the third program") << 5 << 0 << 0 << "Node" << QStringList() << true << false;
-    QTest::newRow("page of no program") << 4 << 0 << 0 << "Node" << QStringList() << false << false;
-    QTest::newRow("mask 16 asks nothing") << 3 << 16 << 45 << "Node" << QStringList() << true << false;
-    QTest::newRow("mask meets the bit") << 3 << 1 << 10 << "Node" << QStringList() << true << true;
-    QTest::newRow("high bits count for nothing") << 3 << 18 << 10 << "Node" << QStringList() << false << true;
-    QTest::newRow("absent content") << 3 << 0 << 0 << "Quad" << QStringList() << false << false;
-    QTest::newRow("declared present")
-        << 3 << 0 << 0 << "Quad" << QStringList{"Beam", "Quad"} << true << false;
-    QTest::newRow("declared with case") << 3 << 0 << 0 << "Quad" << QStringList{"quad"} << false << false;
-}
-
-void TestTreeLogic::isRecordOffered()
-{
-    QFETCH(int, progname);
-    QFETCH(int, systemMask);
-    QFETCH(int, kind);
-    QFETCH(QString, tag);
-    QFETCH(QStringList, additional);
-    QFETCH(bool, offered);
-    QFETCH(bool, kindAsked);
-    GraphicalOutputRecord record;
-    record.prog1 = 3;
-    record.prog3 = 5;
-    record.systemMask = systemMask;
-    record.contentTag = tag;
-    record.title1 = record.title2 = record.title3 = QStringLiteral("x");
-    const FakeModel model(int(ModelContent::Quads), kind);
-    const std::list<QString> tags(additional.begin(), additional.end());
-    QCOMPARE(vkd::plib::widgetgraphicaloutput::isRecordOffered(record, progname, model, tags), offered);
-    QCOMPARE(model.kindAsked > 0, kindAsked);
-}
-
-// A real project: design lines under any second key, cross sections from the second project and
-// everything else from the first.
-void TestTreeLogic::answersOfTheProjects()
-{
-    QTemporaryDir dir;
-    VKD_H_ZOBDoc model(dir.filePath(QStringLiteral("model.vkd")));
-    VKD_H_ZOBDoc sections(dir.filePath(QStringLiteral("sections.vkd")));
-    QVERIFY(model.isValid() && sections.isValid());
-    const int one = 1;
-    const int length = int(sizeof one);
-    vkd::dbo::setKindOfSystem(model.index(), 30);
-    vkd_zob_put(model.index(), vkd::dbo::KeyNodes, 1, &one, &length, 1);
-    vkd_zob_put(model.index(), vkd::dbo::KeyDesignLines, 7, &one, &length, 1);
-    vkd_zob_put(sections.index(), vkd::dbo::KeyCrossSections, 1, &one, &length, 1);
-
-    VKD_H_PluginParameter modelOnly(&model), both(&model, &sections), swapped(&sections, &model);
-    QCOMPARE(ProjectModel(&modelOnly).kindOfSystem(), 30);
-    QVERIFY(vkd::plib::widgetgraphicaloutput::hasContent(QStringLiteral("DSLN"), &modelOnly));
-    QVERIFY(!vkd::plib::widgetgraphicaloutput::hasContent(QStringLiteral("DSLN"), &swapped));
-    QVERIFY(!vkd::plib::widgetgraphicaloutput::hasContent(QStringLiteral("Sect"), &modelOnly));
-    QVERIFY(vkd::plib::widgetgraphicaloutput::hasContent(QStringLiteral("Sect"), &both));
-    QVERIFY(vkd::plib::widgetgraphicaloutput::hasContent(QStringLiteral("Node"), &both));
-    QVERIFY(!vkd::plib::widgetgraphicaloutput::hasContent(QStringLiteral("Node"), &swapped));
-    QVERIFY(!vkd::plib::widgetgraphicaloutput::hasContent(QStringLiteral("Node"), nullptr));
-}
-
-void TestTreeLogic::scriptLines_data()
-{
-    QTest::addColumn<bool>("english");
-    QTest::addColumn<QString>("reference");
-    QTest::newRow("English keywords") << true << "scriptlines-en.txt";
-    QTest::newRow("German keywords") << false << "scriptlines-de.txt";
-}
-
-// The lines of the scenarios, each under its title.
-void TestTreeLogic::scriptLines()
-{
-    QFETCH(bool, english);
-    QFETCH(QString, reference);
-    QString text;
-    for (const Scenario& scenario : scenarios) {
-        ScriptContext context(english, scenario.progname, [&scenario] { return scenario.kindOfSystem; });
-        std::vector<QString> lines;
-        GraphicalOutputRecord caption;
-        caption.scriptEnglish = caption.scriptGerman = QStringLiteral("STRU");
-        for (const Entry& e : scenario.entries) {
-            GraphicalOutputRecord record;
-            record.viewKind = e.viewKind;
-            record.scriptEnglish = QStringLiteral("PICT ") + QLatin1String(e.name);
-            record.scriptGerman = QStringLiteral("BILD ") + QLatin1String(e.name);
-            const QString label = QLatin1String(e.label);
-            appendScriptLines(context, ScriptEntry{record, e.number, label, &caption}, lines);
-        }
-        text += QStringLiteral("== %1\n").arg(QLatin1String(scenario.title));
-        for (const QString& line : lines)
-            text += line + QLatin1Char('\n');
+    void systemBit_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("bit");
+        const std::pair<int, int> table[] = {{0, 8},  {-9, 8}, {10, 1}, {13, 2},  {14, 1},  {19, 2},
+                                             {25, 8}, {35, 4}, {45, 0}, {50, 15}, {-10, 15}};
+        for (const auto& [kind, bit] : table)
+            QTest::addRow("kind %d", kind) << kind << bit;
     }
-    QVERIFY(matchesReference(text, reference));
-}
 
-void TestTreeLogic::secondCase_data()
-{
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<bool>("asks");
-    QTest::addColumn<int>("second");
-    QTest::newRow("two cases and a title") << "12+14: Wind" << true << 14;
-    QTest::newRow("one case and a title") << "12 : Wind" << false << 0;
-    QTest::newRow("exponent of a large number") << "1e+06 " << true << 6;
-    QTest::newRow("no colon: first five characters") << "123456+8" << false << 0;
-    QTest::newRow("plus in the title") << "3: 4+5" << false << 0;
-    QTest::newRow("second case no number") << "5+x: y" << true << -1;
-    QTest::newRow("nothing behind the plus") << "12+: a" << true << -1;
-}
+    void systemBit()
+    {
+        QFETCH(int, kind);
+        QFETCH(int, bit);
+        QCOMPARE(vkd::plib::widgetgraphicaloutput::systemBit(kind), bit);
+    }
 
-void TestTreeLogic::secondCase()
-{
-    QFETCH(QString, label);
-    QFETCH(bool, asks);
-    QFETCH(int, second);
-    int found = 0;
-    QCOMPARE(vkd::plib::widgetgraphicaloutput::secondCase(label, &found), asks);
-    if (asks)
-        QCOMPARE(found, second);
-}
+    void isRecordOffered_data()
+    {
+        QTest::addColumn<int>("progname");
+        QTest::addColumn<int>("systemMask");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("tag");
+        QTest::addColumn<QStringList>("additional");
+        QTest::addColumn<bool>("offered");
+        QTest::addColumn<bool>("kindAsked");
+        // The record is offered on the pages 3, 0 and 5; the model holds everything but quads.
+        QTest::newRow("page of the third program") << 5 << 0 << 0 << "Node" << QStringList() << true << false;
+        QTest::newRow("page of no program") << 4 << 0 << 0 << "Node" << QStringList() << false << false;
+        QTest::newRow("mask 16 asks nothing") << 3 << 16 << 45 << "Node" << QStringList() << true << false;
+        QTest::newRow("mask meets the bit") << 3 << 1 << 10 << "Node" << QStringList() << true << true;
+        QTest::newRow("high bits count for nothing")
+            << 3 << 18 << 10 << "Node" << QStringList() << false << true;
+        QTest::newRow("absent content") << 3 << 0 << 0 << "Quad" << QStringList() << false << false;
+        QTest::newRow("declared present")
+            << 3 << 0 << 0 << "Quad" << QStringList{"Beam", "Quad"} << true << false;
+        QTest::newRow("declared with case") << 3 << 0 << 0 << "Quad" << QStringList{"quad"} << false << false;
+    }
+
+    void isRecordOffered()
+    {
+        QFETCH(int, progname);
+        QFETCH(int, systemMask);
+        QFETCH(int, kind);
+        QFETCH(QString, tag);
+        QFETCH(QStringList, additional);
+        QFETCH(bool, offered);
+        QFETCH(bool, kindAsked);
+        GraphicalOutputRecord record;
+        record.prog1 = 3;
+        record.prog3 = 5;
+        record.systemMask = systemMask;
+        record.contentTag = tag;
+        record.title1 = record.title2 = record.title3 = QStringLiteral("x");
+        const FakeModel model(int(ModelContent::Quads), kind);
+        const std::list<QString> tags(additional.begin(), additional.end());
+        QCOMPARE(vkd::plib::widgetgraphicaloutput::isRecordOffered(record, progname, model, tags), offered);
+        QCOMPARE(model.kindAsked > 0, kindAsked);
+    }
+
+    void scriptLines_data()
+    {
+        QTest::addColumn<bool>("english");
+        QTest::addColumn<QString>("reference");
+        QTest::newRow("English keywords") << true << "scriptlines-en.txt";
+        QTest::newRow("German keywords") << false << "scriptlines-de.txt";
+    }
+
+    // The lines of the scenarios, each under its title.
+    void scriptLines()
+    {
+        QFETCH(bool, english);
+        QFETCH(QString, reference);
+        QString text;
+        for (const Scenario& scenario : scenarios) {
+            ScriptContext context(english, scenario.progname, [&scenario] { return scenario.kindOfSystem; });
+            std::vector<QString> lines;
+            GraphicalOutputRecord caption;
+            caption.scriptEnglish = caption.scriptGerman = QStringLiteral("STRU");
+            for (const Entry& e : scenario.entries) {
+                GraphicalOutputRecord record;
+                record.viewKind = e.viewKind;
+                record.scriptEnglish = QStringLiteral("PICT ") + QLatin1String(e.name);
+                record.scriptGerman = QStringLiteral("BILD ") + QLatin1String(e.name);
+                const QString label = QLatin1String(e.label);
+                appendScriptLines(context, ScriptEntry{record, e.number, label, &caption}, lines);
+            }
+            text += QStringLiteral("== %1\n").arg(QLatin1String(scenario.title));
+            for (const QString& line : lines)
+                text += line + QLatin1Char('\n');
+        }
+        QVERIFY(matchesReference(text, reference));
+    }
+
+    void secondCase_data()
+    {
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<bool>("asks");
+        QTest::addColumn<int>("second");
+        QTest::newRow("two cases and a title") << "12+14: Wind" << true << 14;
+        QTest::newRow("one case and a title") << "12 : Wind" << false << 0;
+        QTest::newRow("no colon: first five characters") << "123456+8" << false << 0;
+        QTest::newRow("plus in the title") << "3: 4+5" << false << 0;
+        QTest::newRow("second case no number") << "5+x: y" << true << -1;
+    }
+
+    void secondCase()
+    {
+        QFETCH(QString, label);
+        QFETCH(bool, asks);
+        QFETCH(int, second);
+        int found = 0;
+        QCOMPARE(vkd::plib::widgetgraphicaloutput::secondCase(label, &found), asks);
+        if (asks)
+            QCOMPARE(found, second);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestTreeLogic)
 #include "tst_treelogic.moc"

@@ -16,8 +16,9 @@ int main(int argc, char** argv)
     }
     const int before = vkd_lib_getvalue(102);
     const int result = vkd_unittests(args);
-    std::printf("result %d\nlanguage %d %d\ntext %s\nsuite %s\n", result, before, vkd_lib_getvalue(102),
-                qUtf8Printable(QCoreApplication::translate("VKD_P_Mix_UnitTest", "Self-check of the library")),
-                qUtf8Printable(QCoreApplication::translate("VKD_QT_Ok", "Cancel")));
+    std::printf(
+        "result %d\nlanguage %d %d\ntext %s\nsuite %s\n", result, before, vkd_lib_getvalue(102),
+        qUtf8Printable(QCoreApplication::translate("VKD_P_Mix_UnitTest", "Self-check of the library")),
+        qUtf8Printable(QCoreApplication::translate("VKD_QT_Ok", "Cancel")));
     return result;
 }

@@ -5,46 +5,12 @@
 
 namespace {
 
-// Tree: root -> a, b; a -> a1, a2, a3; b -> b1
-struct Fixture
+QTreeWidgetItem* item(QTreeWidgetItem* parent, const QString& name, Qt::CheckState state = Qt::Unchecked)
 {
-    VKD_QT_TreeWidget tree;
-    QTreeWidgetItem* root;
-    QTreeWidgetItem* a;
-    QTreeWidgetItem* b;
-    QList<QTreeWidgetItem*> leaves;
-
-    Fixture()
-    {
-        tree.setAutomaticCheckStateUpdate(true);
-        root = new QTreeWidgetItem(QStringList{"root"});
-        root->setCheckState(0, Qt::Unchecked);
-        tree.addTopLevelItem(root);
-        a = new QTreeWidgetItem(root, QStringList{"a"});
-        a->setCheckState(0, Qt::Unchecked);
-        b = new QTreeWidgetItem(root, QStringList{"b"});
-        b->setCheckState(0, Qt::Unchecked);
-        for (const char* n : {"a1", "a2", "a3"}) {
-            auto* leaf = new QTreeWidgetItem(a, QStringList{n});
-            leaf->setCheckState(0, Qt::Unchecked);
-            leaves << leaf;
-        }
-        auto* b1 = new QTreeWidgetItem(b, QStringList{"b1"});
-        b1->setCheckState(0, Qt::Unchecked);
-        leaves << b1;
-    }
-    QTreeWidgetItem* byName(const QString& name)
-    {
-        return tree.findItems(name, Qt::MatchExactly | Qt::MatchRecursive).value(0);
-    }
-    QString states()
-    {
-        QString s;
-        for (QTreeWidgetItemIterator it(&tree); *it; ++it)
-            s += QString::number(int((*it)->checkState(0)));
-        return s; // root a a1 a2 a3 b b1, 0 unchecked 1 partial 2 checked
-    }
-};
+    auto* i = new QTreeWidgetItem(parent, QStringList{name});
+    i->setCheckState(0, state);
+    return i;
+}
 
 } // namespace
 
@@ -52,145 +18,103 @@ class TestTreeWidget : public QObject
 {
     Q_OBJECT
 private slots:
-    void checkStateRule_data();
-    void checkStateRule();
-    void insertedCheckedChildUpdatesAncestors();
-    void removingTheOnlyUncheckedChildChecksTheParent();
-    void carryingDownUpdatesAncestorsOnce();
-    void offLeavesStatesAlone();
-    void menuActions();
-};
-
-void TestTreeWidget::checkStateRule_data()
-{
-    QTest::addColumn<QStringList>("steps"); // "name=state" applied in order
-    QTest::addColumn<QString>("expected");   // root a a1 a2 a3 b b1
-    QTest::newRow("nothing") << QStringList() << "0000000";
-    QTest::newRow("one leaf") << QStringList{"a2=2"} << "1102000";
-    QTest::newRow("all leaves of a") << QStringList{"a1=2", "a2=2", "a3=2"} << "1222200";
-    QTest::newRow("every leaf") << QStringList{"a1=2", "a2=2", "a3=2", "b1=2"} << "2222222";
-    QTest::newRow("parent carries down") << QStringList{"a=2"} << "1222200";
-    QTest::newRow("root carries down") << QStringList{"root=2"} << "2222222";
-    QTest::newRow("root unchecked again") << QStringList{"root=2", "root=0"} << "0000000";
-    QTest::newRow("leaf unchecked under checked root") << QStringList{"root=2", "a3=0"} << "1122022";
-    QTest::newRow("partial leaf counts as partial") << QStringList{"b1=1"} << "1000011";
-    QTest::newRow("back and forth") << QStringList{"a1=2", "a1=0", "a1=2", "a2=2", "a3=2", "a=0"} << "0000000";
-}
-
-void TestTreeWidget::checkStateRule()
-{
-    QFETCH(QStringList, steps);
-    QFETCH(QString, expected);
-    Fixture f;
-    for (const QString& step : steps) {
-        const QStringList parts = step.split(QLatin1Char('='));
-        f.byName(parts.at(0))->setCheckState(0, Qt::CheckState(parts.at(1).toInt()));
+    void checkStates_data()
+    {
+        QTest::addColumn<QString>("steps");  // name=state, +parent/name=state (a new child), -name, off, on
+        QTest::addColumn<QString>("states"); // name and state of each item, depth first
+        QTest::newRow("nothing") << ""
+                                 << "root0 a0 a10 a20 a30 b0 b10";
+        QTest::newRow("one leaf") << "a2=2"
+                                  << "root1 a1 a10 a22 a30 b0 b10";
+        QTest::newRow("every leaf") << "a1=2 a2=2 a3=2 b1=2"
+                                    << "root2 a2 a12 a22 a32 b2 b12";
+        QTest::newRow("root carries down") << "root=2"
+                                           << "root2 a2 a12 a22 a32 b2 b12";
+        QTest::newRow("leaf unchecked under checked root") << "root=2 a3=0"
+                                                           << "root1 a1 a12 a22 a30 b2 b12";
+        QTest::newRow("partial leaf counts as partial") << "b1=1"
+                                                        << "root1 a0 a10 a20 a30 b1 b11";
+        QTest::newRow("back and forth") << "a1=2 a1=0 a1=2 a2=2 a3=2 a=0"
+                                        << "root0 a0 a10 a20 a30 b0 b10";
+        QTest::newRow("checked newcomer") << "b1=2 +a/c=2"
+                                          << "root1 a1 a10 a20 a30 c2 b2 b12";
+        QTest::newRow("unchecked newcomer under a checked parent") << "root=2 +a/c=0"
+                                                                   << "root1 a1 a12 a22 a32 c0 b2 b12";
+        QTest::newRow("removing the only unchecked child") << "a1=2 a2=2 -a3"
+                                                           << "root1 a2 a12 a22 b0 b10";
+        QTest::newRow("off leaves states alone") << "off a1=2 a2=2 a3=2"
+                                                 << "root0 a0 a12 a22 a32 b0 b10";
+        QTest::newRow("switched on, brought in line at once") << "off a1=2 a2=2 a3=2 on"
+                                                              << "root1 a2 a12 a22 a32 b0 b10";
     }
-    QCOMPARE(f.states(), expected);
-}
 
-void TestTreeWidget::insertedCheckedChildUpdatesAncestors()
-{
-    Fixture f;
-    f.byName("b1")->setCheckState(0, Qt::Checked);
-    QCOMPARE(f.states(), QStringLiteral("1000022"));
-    // A subtree built outside the tree: its own parent state comes from its children.
-    auto* c = new QTreeWidgetItem(QStringList{"c"});
-    c->setCheckState(0, Qt::Unchecked);
-    for (int i = 0; i < 3; ++i)
-        (new QTreeWidgetItem(c, QStringList{QString("c%1").arg(i)}))->setCheckState(0, Qt::Checked);
-    f.root->addChild(c);
-    QCOMPARE(c->checkState(0), Qt::Checked);
-    QCOMPARE(f.root->checkState(0), Qt::PartiallyChecked);
-    f.a->setCheckState(0, Qt::Checked);
-    QCOMPARE(f.root->checkState(0), Qt::Checked);
-    // An unchecked newcomer turns a checked parent partial.
-    (new QTreeWidgetItem(c, QStringList{"c3"}))->setCheckState(0, Qt::Unchecked);
-    QCOMPARE(c->checkState(0), Qt::PartiallyChecked);
-    QCOMPARE(f.root->checkState(0), Qt::PartiallyChecked);
-}
+    void checkStates()
+    {
+        QFETCH(QString, steps);
+        QFETCH(QString, states);
+        VKD_QT_TreeWidget tree;
+        tree.setAutomaticCheckStateUpdate(true);
+        QTreeWidgetItem* root = item(nullptr, QStringLiteral("root"));
+        tree.addTopLevelItem(root);
+        QTreeWidgetItem* a = item(root, QStringLiteral("a"));
+        for (const char* leaf : {"a1", "a2", "a3"})
+            item(a, QLatin1String(leaf));
+        item(item(root, QStringLiteral("b")), QStringLiteral("b1"));
+        auto byName = [&tree](const QString& name) {
+            return tree.findItems(name, Qt::MatchExactly | Qt::MatchRecursive).value(0);
+        };
+        for (const QString& step : steps.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            const auto state = Qt::CheckState(step.section(QLatin1Char('='), 1).toInt());
+            if (step == QLatin1String("off") || step == QLatin1String("on"))
+                tree.setAutomaticCheckStateUpdate(step == QLatin1String("on"));
+            else if (step.startsWith(QLatin1Char('+')))
+                item(byName(step.mid(1).section(QLatin1Char('/'), 0, 0)),
+                     step.section(QLatin1Char('/'), 1).section(QLatin1Char('='), 0, 0), state);
+            else if (step.startsWith(QLatin1Char('-')))
+                delete byName(step.mid(1));
+            else
+                byName(step.section(QLatin1Char('='), 0, 0))->setCheckState(0, state);
+        }
+        QStringList seen;
+        for (QTreeWidgetItemIterator it(&tree); *it; ++it)
+            seen << (*it)->text(0) + QString::number(int((*it)->checkState(0)));
+        QCOMPARE(seen.join(QLatin1Char(' ')), states);
+    }
 
-void TestTreeWidget::removingTheOnlyUncheckedChildChecksTheParent()
-{
-    Fixture f;
-    f.byName("a1")->setCheckState(0, Qt::Checked);
-    f.byName("a2")->setCheckState(0, Qt::Checked);
-    QCOMPARE(f.a->checkState(0), Qt::PartiallyChecked);
-    delete f.byName("a3");
-    QCOMPARE(f.a->checkState(0), Qt::Checked);
-    QCOMPARE(f.root->checkState(0), Qt::PartiallyChecked);
-    f.tree.clear();
-    auto* fresh = new QTreeWidgetItem(QStringList{"fresh"});
-    fresh->setCheckState(0, Qt::Unchecked);
-    f.tree.addTopLevelItem(fresh);
-    auto* child = new QTreeWidgetItem(fresh, QStringList{"child"});
-    child->setCheckState(0, Qt::Checked);
-    QCOMPARE(fresh->checkState(0), Qt::Checked);
-}
+    // A subtree built outside the tree takes its state from its children when it comes in;
+    // carrying a state down changes each ancestor once.
+    void subtrees()
+    {
+        VKD_QT_TreeWidget tree;
+        tree.setAutomaticCheckStateUpdate(true);
+        QTreeWidgetItem* top = item(nullptr, QStringLiteral("top"));
+        tree.addTopLevelItem(top);
+        QTreeWidgetItem* caption = item(top, QStringLiteral("caption"));
+        item(caption, QStringLiteral("other"));
+        QTreeWidgetItem* plot = item(nullptr, QStringLiteral("plot"));
+        for (int i = 0; i < 50; ++i)
+            item(plot, QString::number(i), Qt::Checked);
+        caption->addChild(plot);
+        QCOMPARE(plot->checkState(0), Qt::Checked);
+        QCOMPARE(top->checkState(0), Qt::PartiallyChecked);
+        plot->setCheckState(0, Qt::Unchecked);
+        QHash<QTreeWidgetItem*, int> changes;
+        connect(&tree, &QTreeWidget::itemChanged, [&](QTreeWidgetItem* i, int) { ++changes[i]; });
+        plot->setCheckState(0, Qt::Checked);
+        QCOMPARE(plot->child(49)->checkState(0), Qt::Checked);
+        QCOMPARE(changes.value(caption), 1);
+        QCOMPARE(changes.value(top), 1);
+        QCOMPARE(changes.value(plot->child(17)), 1);
 
-void TestTreeWidget::carryingDownUpdatesAncestorsOnce()
-{
-    VKD_QT_TreeWidget tree;
-    tree.setAutomaticCheckStateUpdate(true);
-    auto* top = new QTreeWidgetItem(QStringList{"top"});
-    auto* caption = new QTreeWidgetItem(top, QStringList{"caption"});
-    auto* plot = new QTreeWidgetItem(caption, QStringList{"plot"});
-    auto* other = new QTreeWidgetItem(caption, QStringList{"other plot"});
-    for (QTreeWidgetItem* i : {top, caption, plot, other})
-        i->setCheckState(0, Qt::Unchecked);
-    for (int i = 0; i < 5000; ++i)
-        (new QTreeWidgetItem(plot, QStringList{QString::number(i)}))->setCheckState(0, Qt::Unchecked);
-    tree.addTopLevelItem(top);
-
-    QHash<QTreeWidgetItem*, int> changes;
-    connect(&tree, &QTreeWidget::itemChanged, [&](QTreeWidgetItem* item, int) { ++changes[item]; });
-    plot->setCheckState(0, Qt::Checked);
-    QCOMPARE(plot->child(4999)->checkState(0), Qt::Checked);
-    QCOMPARE(caption->checkState(0), Qt::PartiallyChecked);
-    QCOMPARE(top->checkState(0), Qt::PartiallyChecked);
-    QCOMPARE(changes.value(caption), 1);
-    QCOMPARE(changes.value(top), 1);
-    QCOMPARE(changes.value(plot->child(17)), 1);
-
-    changes.clear();
-    plot->child(0)->setCheckState(0, Qt::Unchecked);
-    QCOMPARE(plot->checkState(0), Qt::PartiallyChecked);
-    QCOMPARE(changes.value(caption), 0); // was partial, stays partial
-    QCOMPARE(changes.size(), 2);          // the row and its plot
-}
-
-void TestTreeWidget::offLeavesStatesAlone()
-{
-    QTreeWidget plain;
-    VKD_QT_TreeWidget tree;
-    auto* parent = new QTreeWidgetItem(QStringList{"p"});
-    parent->setCheckState(0, Qt::Unchecked);
-    tree.addTopLevelItem(parent);
-    auto* child = new QTreeWidgetItem(parent, QStringList{"c"});
-    child->setCheckState(0, Qt::Checked);
-    QCOMPARE(parent->checkState(0), Qt::Unchecked);
-    tree.setAutomaticCheckStateUpdate(true);
-    QCOMPARE(parent->checkState(0), Qt::Checked); // switched on: brought in line at once
-    tree.setAutomaticCheckStateUpdate(false);
-    child->setCheckState(0, Qt::Unchecked);
-    QCOMPARE(parent->checkState(0), Qt::Checked);
-}
-
-void TestTreeWidget::menuActions()
-{
-    VKD_QT_TreeWidget tree;
-    auto* top = new QTreeWidgetItem(QStringList{"top"});
-    new QTreeWidgetItem(top, QStringList{"child"});
-    tree.addTopLevelItem(top);
-    VKD_QT_Menu menu(nullptr, "menu");
-    tree.addExpandAll(&menu);
-    tree.addCollapseAll(&menu);
-    QCOMPARE(menu.actions().size(), 2);
-    menu.actions().at(0)->trigger();
-    QVERIFY(top->isExpanded());
-    menu.actions().at(1)->trigger();
-    QVERIFY(!top->isExpanded());
-}
+        VKD_QT_Menu menu(nullptr, "menu");
+        tree.addExpandAll(&menu);
+        tree.addCollapseAll(&menu);
+        menu.actions().at(0)->trigger();
+        QVERIFY(plot->isExpanded());
+        menu.actions().at(1)->trigger();
+        QVERIFY(!top->isExpanded());
+    }
+};
 
 QTEST_MAIN(TestTreeWidget)
 #include "tst_treewidget.moc"
