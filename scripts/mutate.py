@@ -227,19 +227,23 @@ def main():
     parser.add_argument("--paths", nargs="+", default=DEFAULT_PATHS)
     parser.add_argument("--jobs", type=int, default=2)
     parser.add_argument("--test-timeout", type=int, default=60, help="seconds for one test")
+    parser.add_argument("--only", nargs="+", metavar="FILE:LINE",
+                        help="of the mutants drawn, run these alone (to check a new test on a survivor)")
     parser.add_argument("--list", action="store_true", help="only print the mutants the seed draws")
     parser.add_argument("--report", action="store_true", help="only summarize the results file")
     args = parser.parse_args()
 
     build = (ROOT / args.build_dir).resolve()
     work = build / "mutants"
-    results_file = work / f"seed-{args.seed}.jsonl"
+    results_file = work / (f"seed-{args.seed}.jsonl" if not args.only else f"seed-{args.seed}-only.jsonl")
     if args.report:
         results = [json.loads(l) for l in results_file.read_text().splitlines() if l.strip()]
         print(summary(results))
         return 0
 
     mutants, pool = choose(args.paths, args.seed, args.count)
+    if args.only:
+        mutants = [m for m in mutants if f"{m['file']}:{m['line']}" in args.only]
     if args.list:
         print(f"{pool} candidate lines")
         for m in mutants:

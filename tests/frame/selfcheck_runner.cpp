@@ -10,10 +10,7 @@
 int main(int argc, char** argv)
 {
     QGuiApplication app(argc, argv);
-    QStringList args = app.arguments().mid(1);
-    if (!args.isEmpty() && args.first().startsWith(QLatin1String("language="))) {
-        vkd_lib_setvalue(102, args.takeFirst().mid(9).toInt());
-    }
+    const QStringList args = app.arguments().mid(1);
     const int before = vkd_lib_getvalue(102);
     const int result = vkd_unittests(args);
     std::printf(

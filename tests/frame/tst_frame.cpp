@@ -13,12 +13,13 @@ namespace {
 
 // Runs the library's self-check in a process of its own, where QTest does not nest in this
 // test; gives what the runner printed and the log it wrote.
-QString runSelfCheck(const QStringList& arguments, const QString& language, QByteArray* log = nullptr)
+QString runSelfCheck(const QStringList& arguments, const QStringList& environment, QByteArray* log)
 {
     QTemporaryDir dir;
     QProcess runner;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("VKD_LANGUAGE"), language);
+    for (const QString& variable : environment)
+        env.insert(variable.section(QLatin1Char('='), 0, 0), variable.section(QLatin1Char('='), 1));
     runner.setProcessEnvironment(env);
     runner.start(QStringLiteral(SELFCHECK_RUNNER),
                  QStringList(arguments).replaceInStrings("<dir>", dir.path()));
@@ -112,23 +113,27 @@ private slots:
     void selfCheck_data()
     {
         QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("language");
+        QTest::addColumn<QStringList>("environment");
         QTest::addColumn<QString>("printed");
-        QTest::newRow("English desktop") << QStringList{"LOGPATH:<dir>"} << "1"
+        QTest::newRow("English desktop") << QStringList{"LOGPATH:<dir>"} << QStringList{"VKD_LANGUAGE=1"}
                                          << "exit 0\nresult 0\nlanguage 1 1\ntext Self-check of the library\n"
                                             "suite Cancel\n";
         QTest::newRow("German desktop")
-            << QStringList{"LogPath:<dir>"} << "de"
+            << QStringList{"LogPath:<dir>"} << QStringList{"VKD_LANGUAGE=de"}
+            << "exit 0\nresult 0\nlanguage 0 0\ntext Selbsttest der Bibliothek\nsuite Abbrechen\n";
+        QTest::newRow("no language set: the locale's")
+            << QStringList{"LogPath:<dir>"}
+            << QStringList{"VKD_LANGUAGE=", "LC_ALL=de_DE.UTF-8", "LANG=de_DE.UTF-8"}
             << "exit 0\nresult 0\nlanguage 0 0\ntext Selbsttest der Bibliothek\nsuite Abbrechen\n";
     }
 
     void selfCheck()
     {
         QFETCH(QStringList, arguments);
-        QFETCH(QString, language);
+        QFETCH(QStringList, environment);
         QFETCH(QString, printed);
         QByteArray log;
-        QCOMPARE(runSelfCheck(arguments, language, &log), printed);
+        QCOMPARE(runSelfCheck(arguments, environment, &log), printed);
         QVERIFY2(log.contains("PASS   : VKD_P_Mix_UnitTest::check_qrc_system()"), log.constData());
         QVERIFY(log.contains("0 failed"));
     }

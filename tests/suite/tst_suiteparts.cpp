@@ -4,6 +4,7 @@
 #include <VKD_H_ProjectDialogPage.h>
 #include <VKD_H_UnitLabel.h>
 #include <VKD_H_ZOBDoc.h>
+#include <vkd_dbo.h>
 #include <vkd_h_units.h>
 
 #include <QTemporaryDir>
@@ -93,6 +94,14 @@ private slots:
     }
 
     // A bar goes by its name in the project's table, else by its diameter; no bar has no text.
+    // Titles of model records are cut to their field, which keeps its terminating zero.
+    void recordTitles()
+    {
+        const QString longTitle(50, QLatin1Char('x'));
+        QCOMPARE(QByteArray(vkd::dbo::makeLoadCase(1, 1, longTitle).title), QByteArray(39, 'x'));
+        QCOMPARE(QByteArray(vkd::dbo::makeGroup(1, longTitle).title), QByteArray(31, 'x'));
+    }
+
     void barText()
     {
         VKD_A_BarDiameterData table, loaded;

@@ -40,6 +40,8 @@ private slots:
                                           << "root1 a1 a10 a20 a30 c2 b2 b12";
         QTest::newRow("unchecked newcomer under a checked parent") << "root=2 +a/c=0"
                                                                    << "root1 a1 a12 a22 a32 c0 b2 b12";
+        QTest::newRow("removing a partial child") << "a1=1 -a1"
+                                                  << "root0 a0 a20 a30 b0 b10";
         QTest::newRow("removing the only unchecked child") << "a1=2 a2=2 -a3"
                                                            << "root1 a2 a12 a22 b0 b10";
         QTest::newRow("off leaves states alone") << "off a1=2 a2=2 a3=2"
