@@ -18,6 +18,7 @@
 
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
@@ -350,6 +351,8 @@ private slots:
             QStringLiteral(
                 "Selection 150|Type 150|Direction and Distance 200|Reinforcement 120|Crack Control 120"));
         page->readZob();
+        // Each summary shows two lines.
+        QVERIFY(table->verticalHeader()->defaultSectionSize() > 2 * table->fontMetrics().lineSpacing());
         QCOMPARE(rowCount.count(), 1);
         QCOMPARE(rowCount.at(0).at(0).toInt(), 1);
         QVERIFY(matchesReference(tableText(table), QStringLiteral("new-project.txt")));

@@ -70,6 +70,7 @@ private slots:
         QTest::newRow("names of the project") << "9.5:#3 12.7:#4 15.9:#5" << "#3 #4 #5";
         QTest::newRow("order of the project") << "20: 8: 12:" << QString::fromUtf8("Ø20 Ø8 Ø12");
         QTest::newRow("bad diameters skipped") << "0:zero -6:neg 10:ten" << "ten";
+        QTest::newRow("name cut to its twelve bytes") << "12:abcdefghijklm" << "abcdefghijkl";
         // clang-format on
     }
 
