@@ -16,7 +16,7 @@ namespace {
 // The host has no translation of its own for its two words.
 QString byLanguage(const char* german, const char* english)
 {
-    return QString::fromUtf8(vkd_lib_getvalue(102) == 0 ? german : english);
+    return QString::fromUtf8(vkd_lib_getvalue(kSettingLanguage) == 0 ? german : english);
 }
 
 } // namespace

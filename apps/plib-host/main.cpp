@@ -77,7 +77,7 @@ int main(int argc, char** argv)
     }
     // Before the application object: the library installs its German texts when that is made.
     if (options.language >= 0)
-        vkd_lib_setvalue(102, options.language);
+        vkd_lib_setvalue(kSettingLanguage, options.language);
     QApplication app(argc, argv);
 
     QString path = options.project;

@@ -24,8 +24,11 @@ inline std::vector<GraphicalOutputRecord> parseText(const QByteArray& text)
 class LanguageScope
 {
 public:
-    explicit LanguageScope(int language) : m_saved(vkd_lib_getvalue(102)) { vkd_lib_setvalue(102, language); }
-    ~LanguageScope() { vkd_lib_setvalue(102, m_saved); }
+    explicit LanguageScope(int language) : m_saved(vkd_lib_getvalue(kSettingLanguage))
+    {
+        vkd_lib_setvalue(kSettingLanguage, language);
+    }
+    ~LanguageScope() { vkd_lib_setvalue(kSettingLanguage, m_saved); }
 
 private:
     int m_saved;

@@ -76,7 +76,7 @@ struct Tree
             if (r.scriptEnglish == QLatin1String("PICT EMPTY"))
                 r.scriptGerman = r.scriptEnglish = QString();
         catalogueList() = records;
-        catalogueLanguage = vkd_lib_getvalue(102);
+        catalogueLanguage = vkd_lib_getvalue(kSettingLanguage);
         view = std::make_unique<GraphicalOutputTreeWidget>(nullptr, progname, &parameter, "m_list");
         view->setUsedNumbersAndNames(rows);
     }

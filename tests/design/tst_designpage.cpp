@@ -316,7 +316,7 @@ class TestDesignPage : public QObject
 private slots:
     void init()
     {
-        vkd_lib_setvalue(102, 1);
+        vkd_lib_setvalue(kSettingLanguage, 1);
         // A test that failed with a box open must not leave it to the next one.
         while (QWidget* modal = QApplication::activeModalWidget())
             modal->close();
@@ -495,7 +495,7 @@ private slots:
         for (const auto& [language, file, heading] :
              {std::tuple{1, "merdan_para_en.html", "Design parameters"},
               {0, "merdan_para_de.html", "Bemessungsparameter"}}) {
-            vkd_lib_setvalue(102, language);
+            vkd_lib_setvalue(kSettingLanguage, language);
             page->showHelp();
             QTextBrowser* text = nullptr;
             for (QWidget* w : QApplication::topLevelWidgets())

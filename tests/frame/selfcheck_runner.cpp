@@ -11,10 +11,10 @@ int main(int argc, char** argv)
 {
     QGuiApplication app(argc, argv);
     const QStringList args = app.arguments().mid(1);
-    const int before = vkd_lib_getvalue(102);
+    const int before = vkd_lib_getvalue(kSettingLanguage);
     const int result = vkd_unittests(args);
     std::printf(
-        "result %d\nlanguage %d %d\ntext %s\nsuite %s\n", result, before, vkd_lib_getvalue(102),
+        "result %d\nlanguage %d %d\ntext %s\nsuite %s\n", result, before, vkd_lib_getvalue(kSettingLanguage),
         qUtf8Printable(QCoreApplication::translate("VKD_P_Mix_UnitTest", "Self-check of the library")),
         qUtf8Printable(QCoreApplication::translate("VKD_QT_Ok", "Cancel")));
     return result;

@@ -32,7 +32,7 @@ QString groupText(int32_t group)
 {
     if (group == -1)
         return QStringLiteral("-1 (remaining groups)");
-    if (group >= 1000000)
+    if (group >= kFirstSecondaryGroup)
         return QStringLiteral("%1 (secondary group %2)").arg(group).arg(secondaryGroupName(group));
     return QString::number(group);
 }
@@ -68,7 +68,7 @@ QString dumpDesignRecords(int index)
                     .arg(position)
                     .arg(groupText(r.group), typeText(r.type));
         text += QStringLiteral("  subId %1, mode %2, mark %3").arg(r.subId).arg(r.mode).arg(r.mark);
-        if ((r.mark != 0 && r.mark != 11) || r.subId != 0)
+        if ((r.mark != 0 && r.mark != kDesignRecordMark) || r.subId != 0)
             text += QStringLiteral(" (other origin: not read by the design page)");
         if (length != int(sizeof r))
             text += QStringLiteral(" (%1 bytes; the rest reads as zero here)").arg(length);

@@ -26,7 +26,8 @@ int echoLevelFromEnvironment()
 
 QHash<int, int>& settings()
 {
-    static QHash<int, int> values{{102, languageFromEnvironment()}, {108, echoLevelFromEnvironment()}};
+    static QHash<int, int> values{{kSettingLanguage, languageFromEnvironment()},
+                                  {kSettingEchoLevel, echoLevelFromEnvironment()}};
     return values;
 }
 

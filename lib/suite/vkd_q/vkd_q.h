@@ -36,8 +36,10 @@ void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode);
 // Number of records under the key pair, for tools and dumps.
 int vkd_zob_count(int index, int key1, int key2);
 
-// Numbered settings. 102: language of the desktop (0 German, 1 English).
-// 108: echo level written into the opening line of batch program blocks.
+// Numbered settings: the language of the desktop (0 German, 1 English), and the echo level
+// written into the opening line of batch program blocks.
+constexpr int kSettingLanguage = 102;
+constexpr int kSettingEchoLevel = 108;
 int vkd_lib_getvalue(int key);
 void vkd_lib_setvalue(int key, int value);
 

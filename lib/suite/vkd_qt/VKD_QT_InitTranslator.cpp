@@ -50,7 +50,7 @@ VKD_QT_InitTranslator::~VKD_QT_InitTranslator()
 
 void VKD_QT_InitTranslator::install()
 {
-    if (m_translator || vkd_lib_getvalue(102) != 0)
+    if (m_translator || vkd_lib_getvalue(kSettingLanguage) != 0)
         return; // the source texts are English
     const std::string path = vkd_lib_searchpath((m_module + "_de.qm").constData(), 3);
     if (path.empty())

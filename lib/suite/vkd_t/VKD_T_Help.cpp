@@ -27,7 +27,7 @@ QString VKD_T_Help::pagePath(const VKD_T_String& book, const VKD_T_String& topic
 
 bool VKD_T_Help::show(QWidget* parent, const VKD_T_String& book, const VKD_T_String& topic)
 {
-    const QString path = pagePath(book, topic, vkd_lib_getvalue(102));
+    const QString path = pagePath(book, topic, vkd_lib_getvalue(kSettingLanguage));
     if (path.isEmpty())
         return false;
     // One viewer per page: asking again raises it.

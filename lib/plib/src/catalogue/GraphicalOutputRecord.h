@@ -2,6 +2,35 @@
 
 #include <QString>
 
+// ctrl: what the word of caseWord binds a plot to.
+enum CaseControl
+{
+    CaseControlNoCases = -1, // any other word: the plot stands without load cases
+    CaseControlBeams = -10,  // beam, dsln
+    CaseControlOther = 0,    // sngl, nonl, supp, eige, zrt1, zrt2
+    CaseControlLast = 1,     // last
+    CaseControlDesign = 8,   // desi
+};
+
+// rowClass: the suffix of caseWord, which says the kind of load case rows a plot takes.
+enum RowClass
+{
+    RowClassNone = 0,
+    RowClassL = 1,
+    RowClassC = 2,
+    RowClassE = 3,
+};
+
+// isLC of a tree item: for a row the rowMark of its plot's record.
+enum RowMark
+{
+    RowMarkNoLine = -1,   // the item makes no script line itself
+    RowMarkPlotAlone = 0, // a plot that stands without load cases
+    RowMarkCase = 1,
+    RowMarkExtreme = 2,
+    RowMarkDesignExtreme = 3,
+};
+
 // One line of the catalogue graphicaloutput.data. Every tree item holds its own copy.
 struct GraphicalOutputRecord
 {

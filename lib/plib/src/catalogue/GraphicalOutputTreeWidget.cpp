@@ -184,7 +184,7 @@ void PopupHandler::createMenu(GraphicalOutputTreeWidget* tree, bool withCloseAll
     m_menu = new VKD_QT_Menu(nullptr, nullptr);
     tree->addExpandAll(m_menu);
     tree->addCollapseAll(m_menu);
-    const QIcon loads = rowIcon(vkd_lib_getvalue(102));
+    const QIcon loads = rowIcon(vkd_lib_getvalue(kSettingLanguage));
     auto add = [this](const QIcon& icon, const char* text) {
         auto* action = new VKD_QT_Action(icon, GraphicalOutputTreeWidget::tr(text), QKeySequence(), m_menu);
         m_menu->addAction(action);
@@ -218,7 +218,7 @@ GraphicalOutputTreeWidget::GraphicalOutputTreeWidget(QWidget* parent, int progna
 {
     setAutomaticCheckStateUpdate(true);
     setHeaderHidden(true);
-    if (!loadCatalogue(this, vkd_lib_getvalue(102)))
+    if (!loadCatalogue(this, vkd_lib_getvalue(kSettingLanguage)))
         return;
     rebuild(true);
     popup.createMenu(this, false);
@@ -292,15 +292,17 @@ void GraphicalOutputTreeWidget::fillTree()
 void GraphicalOutputTreeWidget::addLoadcaseRows(GraphicalOutputTreeWidgetItem* plot,
                                                 const GraphicalOutputRecord& record)
 {
-    if (record.ctrl == -1) {
-        plot->isLC = 0;
+    if (record.ctrl == CaseControlNoCases) {
+        plot->isLC = RowMarkPlotAlone;
         plot->setIcon(0, plotIcon());
         setStateDown(plot, Qt::Checked);
         return;
     }
-    const int kind = record.rowClass == 1 || record.rowClass == 2 ? 1 : record.rowClass == 3 ? 2 : 0;
+    const int kind = record.rowClass == RowClassL || record.rowClass == RowClassC ? 1
+                     : record.rowClass == RowClassE                               ? 2
+                                                                                  : 0;
     if (kind != 0) {
-        const QIcon icon = rowIcon(vkd_lib_getvalue(102));
+        const QIcon icon = rowIcon(vkd_lib_getvalue(kSettingLanguage));
         QList<QTreeWidgetItem*> children;
         for (const LoadcaseInformation& info : rows) {
             if (info.kind != kind)

@@ -30,7 +30,7 @@ public:
     GraphicalOutputRecord record;
     // Negative: the item makes no script line itself. 0 a plot without load cases; for a row
     // the rowMark of its record.
-    int isLC = -1;
+    int isLC = RowMarkNoLine;
     // The load case of a row; 0 on the other levels.
     int number = 0;
     int level = 0;

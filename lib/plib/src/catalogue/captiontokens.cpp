@@ -62,7 +62,7 @@ bool expand(const QString& token, const QString& suffix, QString& out, bool befo
     if (!token.isEmpty()) {
         const QChar sign = token.at(0);
         const QByteArray key = token.mid(1).toLatin1();
-        const int language = vkd_lib_getvalue(102);
+        const int language = vkd_lib_getvalue(kSettingLanguage);
         if (sign == QLatin1Char('&')) {
             text = QString::fromStdString(vkd_lib_convtext(0, language, key.constData()));
             // Texts of class 0 may carry a short form in front of a ">".

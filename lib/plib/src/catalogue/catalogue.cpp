@@ -49,15 +49,15 @@ void storeCaption(const QStringRef& part, int column, QString& caption, QString&
 int ctrlOfWord(const QStringRef& word)
 {
     if (word == QLatin1String("last"))
-        return 1;
+        return CaseControlLast;
     if (word == QLatin1String("sngl") || word == QLatin1String("nonl") || word == QLatin1String("supp") ||
         word == QLatin1String("eige") || word == QLatin1String("zrt1") || word == QLatin1String("zrt2"))
-        return 0;
+        return CaseControlOther;
     if (word == QLatin1String("desi"))
-        return 8;
+        return CaseControlDesign;
     if (word == QLatin1String("beam") || word == QLatin1String("dsln"))
-        return -10;
-    return -1;
+        return CaseControlBeams;
+    return CaseControlNoCases;
 }
 
 // caseWord is "word" or "word-suffix"; the suffix names the kind of load case rows.
@@ -65,20 +65,22 @@ void bindToCases(GraphicalOutputRecord& r)
 {
     const QString lower = r.caseWord.toLower();
     QStringRef word(&lower);
-    r.rowClass = 0;
+    r.rowClass = RowClassNone;
     const int dash = lower.indexOf(QLatin1Char('-'));
     if (dash >= 0) {
         const QStringRef suffix = lower.midRef(dash + 1);
         if (suffix == QLatin1String("l"))
-            r.rowClass = 1;
+            r.rowClass = RowClassL;
         else if (suffix == QLatin1String("c"))
-            r.rowClass = 2;
+            r.rowClass = RowClassC;
         else if (suffix == QLatin1String("e"))
-            r.rowClass = 3;
+            r.rowClass = RowClassE;
         word = lower.leftRef(dash);
     }
     r.ctrl = ctrlOfWord(word);
-    r.rowMark = r.rowClass == 3 ? (r.ctrl == 8 ? 3 : 2) : 1;
+    r.rowMark = r.rowClass == RowClassE
+                    ? (r.ctrl == CaseControlDesign ? RowMarkDesignExtreme : RowMarkExtreme)
+                    : RowMarkCase;
 }
 
 } // namespace

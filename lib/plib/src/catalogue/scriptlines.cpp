@@ -28,6 +28,8 @@ int ScriptContext::kindOfSystem()
 namespace {
 
 constexpr int splitPage = 122;
+// On the split page the case goes into the script text, above the range of load case numbers.
+constexpr int splitSheetCaseOffset = 1000000;
 
 QString viewOf(ScriptContext& context, int viewKind)
 {
@@ -69,7 +71,7 @@ void appendScriptLines(ScriptContext& context, const ScriptEntry& entry, std::ve
     }
     if (context.progname == splitPage) {
         // The split page makes one sheet per load case; the case goes into the script text.
-        script.replace(QLatin1String("$(LFNR)"), QString::number(number + 1000000));
+        script.replace(QLatin1String("$(LFNR)"), QString::number(number + splitSheetCaseOffset));
         lines.push_back(script);
         return;
     }

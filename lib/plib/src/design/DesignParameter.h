@@ -56,8 +56,6 @@ private slots:
     void slot_onReopenGroupsSecondary();
 
 private:
-    friend class TestDesignPage;
-
     void buildTable();
     bool isRowNumber(int number) const;
     // The row with this number, its group list sorted first.

@@ -70,7 +70,7 @@ tagZOB_QUAD_RIM getDefaultMerPara(bool forRemainingGroups)
     r.group = forRemainingGroups ? -1 : 0;
     r.type = forRemainingGroups ? 1 : 0;
     r.mode = 1;
-    r.mark = 11;
+    r.mark = kDesignRecordMark;
     r.rioq = r.riuq = 1.5707964f;
     r.rioi = r.riui = kNotSet;
     r.hio = r.hiu = 0.035f;

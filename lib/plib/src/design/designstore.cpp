@@ -21,7 +21,7 @@ int designIndex(const DesignParameterData& data)
 
 bool isOurs(const tagZOB_QUAD_RIM& r)
 {
-    return (r.mark == 0 || r.mark == 11) && r.subId == 0;
+    return (r.mark == 0 || r.mark == kDesignRecordMark) && r.subId == 0;
 }
 
 bool isRemainingGroups(const std::vector<int32_t>& groups)
