@@ -140,6 +140,29 @@ private slots:
         QCOMPARE(Tree(catalogue).shape(), shape);
     }
 
+    // Declared tags bring their plots in, as often as declared, and go all at once; such a rebuild
+    // keeps the choice only after a selection was applied. The same rows change nothing, others
+    // bring the defaults back.
+    void choiceThroughRebuilds()
+    {
+        Tree t(rec("@T01 T", "@C01 C", "@P01 a") + rec("@T01 T", "@C01 C", "@P02 b", "last-l") +
+               rec("@T01 T", "@C01 C", "@P03 q", "none", 0, 0, "Quad"));
+        t.at({0, 0, 0})->setCheckState(0, Qt::Unchecked);
+        t.view->additionalData(QStringLiteral("Quad"), true);
+        t.view->additionalData(QStringLiteral("Quad"), true);
+        QCOMPARE(t.shape(), QStringLiteral("T~(C~(a+ b-(r1- r2- r3-) q+))"));
+        t.view->applySelection(t.view->selectionText());
+        t.at({0, 0, 0})->setCheckState(0, Qt::Unchecked);
+        t.at({0, 0, 1, 1})->setCheckState(0, Qt::Checked);
+        t.view->additionalData(QStringLiteral("Quad"), false);
+        const QString chosen = QStringLiteral("T~(C~(a- b~(r1- r2+ r3-)))");
+        QCOMPARE(t.shape(), chosen);
+        t.view->setUsedNumbersAndNames(threeRows);
+        QCOMPARE(t.shape(), chosen);
+        t.view->setUsedNumbersAndNames({{1, 1, "r1"}});
+        QCOMPARE(t.shape(), QStringLiteral("T~(C~(a+ b-(r1-)))"));
+    }
+
     void scriptLines_data()
     {
         QTest::addColumn<int>("progname");

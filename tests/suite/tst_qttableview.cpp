@@ -1,5 +1,5 @@
-// The suite's table view in read-only mode: no way of editing gets through, and the view
-// stays enabled for looking.
+// The suite's table view in read-only mode: no way of editing gets through, the view stays
+// enabled for looking, and editors that are open write nothing.
 #include <QtTableView.h>
 
 #include <QLineEdit>
@@ -90,6 +90,27 @@ private slots:
         }
         QCOMPARE(m_view->indexWidget(cell) || !changed.isEmpty() || !inserted.isEmpty(), !readOnly);
         QVERIFY(m_view->isEnabled());
+    }
+
+    // Going read-only closes the editor of the cell without writing; an editor that the host
+    // keeps open in a cell stays, but writes nothing until the view is editable again.
+    void openEditors()
+    {
+        const QModelIndex edited = m_model->index(0, 1), kept = m_model->index(1, 1);
+        m_view->openPersistentEditor(kept);
+        m_view->edit(edited);
+        auto* editor = qobject_cast<QLineEdit*>(m_view->indexWidget(edited));
+        auto* persistent = qobject_cast<QLineEdit*>(m_view->indexWidget(kept));
+        QVERIFY(editor && persistent);
+        editor->setText(QStringLiteral("typed"));
+        persistent->setText(QStringLiteral("typed"));
+        m_view->set_read_only(true);
+        QVERIFY(!m_view->indexWidget(edited) && m_view->isPersistentEditorOpen(kept));
+        emit m_view->itemDelegate()->commitData(persistent);
+        QCOMPARE(text(0, 1) + ' ' + text(1, 1), QStringLiteral("r0c1 r1c1"));
+        m_view->set_read_only(false);
+        emit m_view->itemDelegate()->commitData(persistent);
+        QCOMPARE(text(1, 1), QStringLiteral("typed"));
     }
 };
 
