@@ -237,6 +237,9 @@ def main():
     work = build / "mutants"
     results_file = work / (f"seed-{args.seed}.jsonl" if not args.only else f"seed-{args.seed}-only.jsonl")
     if args.report:
+        if not results_file.exists():
+            print(f"no results in {results_file}")
+            return 1
         results = [json.loads(l) for l in results_file.read_text().splitlines() if l.strip()]
         print(summary(results))
         return 0
@@ -307,6 +310,12 @@ def main():
                   f"{entry['seconds']}s {killer}", flush=True)
     except Stopped:
         print("stopped; the file under mutation is restored", flush=True)
+    try:
+        # The build still holds the last mutant; a copy of the tree unpacked later with old file
+        # times would not rebuild it.
+        run(build_cmd, ROOT, None, log)
+    except Stopped:
+        print("the build dir may still hold a mutant: rebuild it", flush=True)
     if not results_file.exists():
         return 1
     results = [json.loads(l) for l in results_file.read_text().splitlines() if l.strip()]
