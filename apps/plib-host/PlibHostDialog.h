@@ -16,9 +16,13 @@ public:
     VKD_P_DesignParameter* designPage() const { return m_design; }
 
 public slots:
-    // Stays open when the design page asks the user to stay.
+    // Stays open when the design page asks the user to stay, and when the project could not
+    // be written: then it tells why, and nothing typed is lost.
     void accept() override;
 
 private:
+    bool save();
+
+    VKD_H_ZOBDoc* m_project;
     VKD_P_DesignParameter* m_design;
 };

@@ -6,8 +6,7 @@
 #include "PlibHostDialog.h"
 
 #include <VKD_H_ZOBDoc.h>
-#include <demomodel.h>
-#include <design.h>
+#include <newproject.h>
 #include <vkd_q.h>
 
 #include <QApplication>
@@ -52,18 +51,6 @@ Options parse(int argc, char** argv)
     return o;
 }
 
-bool createDemoProject(const QString& path, QTextStream& err)
-{
-    VKD_H_ZOBDoc doc(path, VKD_H_ZOBDoc::OpenOrCreate);
-    if (!doc.isValid()) {
-        err << "plib-host: " << doc.errorString() << '\n';
-        return false;
-    }
-    writeDemoModel(doc.index());
-    writeDemoDesign(doc);
-    return true;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -84,14 +71,20 @@ int main(int argc, char** argv)
     if (path.isEmpty()) {
         path = QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../demo.vkd"));
         path = QDir::cleanPath(path);
+        QString error;
         if (!QFile::exists(path)) {
-            if (!createDemoProject(path, err))
+            if (!createDemoProject(path, &error)) {
+                err << "plib-host: " << error << '\n';
                 return 1;
+            }
             out << "created the demo project " << path << '\n';
             out.flush();
         }
     }
-    VKD_H_ZOBDoc project(path, VKD_H_ZOBDoc::OpenExisting);
+    // A picture is taken of a copy in memory: the default record that the page writes into a
+    // project without one stays out of the file.
+    VKD_H_ZOBDoc project(path, options.screenshot.isEmpty() ? VKD_H_ZOBDoc::OpenExisting
+                                                            : VKD_H_ZOBDoc::MemoryCopy);
     if (!project.isValid()) {
         err << "plib-host: " << project.errorString() << '\n';
         if (options.screenshot.isEmpty())

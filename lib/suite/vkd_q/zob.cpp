@@ -67,7 +67,8 @@ public:
         auto& slot = m_statements[sql];
         if (!slot)
             slot = std::make_unique<Statement>();
-        if (!slot->stmt && sqlite3_prepare_v3(m_db, sql, -1, SQLITE_PREPARE_PERSISTENT, &slot->stmt, nullptr) != SQLITE_OK)
+        if (!slot->stmt &&
+            sqlite3_prepare_v3(m_db, sql, -1, SQLITE_PREPARE_PERSISTENT, &slot->stmt, nullptr) != SQLITE_OK)
             return nullptr;
         sqlite3_reset(slot->stmt);
         sqlite3_clear_bindings(slot->stmt);
@@ -90,19 +91,24 @@ public:
             return status;
         writeStatus = status;
         if (status == ZOB_READ_ONLY)
-            writeError = QStringLiteral("The project file %1 is open for reading only: %2.").arg(path, readOnlyReason);
+            writeError =
+                QStringLiteral("The project file %1 is open for reading only: %2.").arg(path, readOnlyReason);
         else if (status == ZOB_BUSY)
-            writeError = QStringLiteral("The project file %1 is in use by another program, which still held it "
-                                        "after %2 seconds.")
-                             .arg(path)
-                             .arg(busyTimeoutMs / 1000.0);
+            writeError =
+                QStringLiteral("The project file %1 is in use by another program, which still held it "
+                               "after %2 seconds.")
+                    .arg(path)
+                    .arg(busyTimeoutMs / 1000.0);
         else
             writeError = QStringLiteral("The project file %1 could not be written: %2.")
                              .arg(path, QString::fromUtf8(sqlite3_errmsg(m_db)));
         return status;
     }
 
-    zob_status_t failFromDatabase() { return fail(sqlite3_errcode(m_db) == SQLITE_BUSY ? ZOB_BUSY : ZOB_FAILED); }
+    zob_status_t failFromDatabase()
+    {
+        return fail(sqlite3_errcode(m_db) == SQLITE_BUSY ? ZOB_BUSY : ZOB_FAILED);
+    }
 
     zob_status_t takeLock()
     {
@@ -144,8 +150,8 @@ Registry& registry()
 std::shared_ptr<Database> openScratch()
 {
     sqlite3* db = nullptr;
-    if (sqlite3_open_v2(":memory:", &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) != SQLITE_OK
-        || !execScript(db, kSchema)) {
+    if (sqlite3_open_v2(":memory:", &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) != SQLITE_OK ||
+        !execScript(db, kSchema)) {
         sqlite3_close(db);
         return nullptr;
     }
@@ -178,8 +184,9 @@ QString readProblem(sqlite3* db, int rc, const QString& path)
         return QStringLiteral("The project file %1 is damaged: %2.").arg(path, detail);
     case SQLITE_READONLY:
         // A hot journal that only a writer may roll back.
-        return QStringLiteral("The project file %1 was left in the middle of a write; open it once for editing "
-                              "so that the unfinished write is undone.")
+        return QStringLiteral(
+                   "The project file %1 was left in the middle of a write; open it once for editing "
+                   "so that the unfinished write is undone.")
             .arg(path);
     default:
         return QStringLiteral("The project file %1 cannot be read: %2.").arg(path, detail);
@@ -204,8 +211,9 @@ int queryText(sqlite3* db, const char* sql, QByteArray* value)
 QString checkProject(sqlite3* db, const QString& path)
 {
     QByteArray tables;
-    int rc = queryText(db, "SELECT count(*) FROM sqlite_master WHERE type='table' AND name IN ('zob_key','zob_record')",
-                       &tables);
+    int rc = queryText(
+        db, "SELECT count(*) FROM sqlite_master WHERE type='table' AND name IN ('zob_key','zob_record')",
+        &tables);
     if (rc != SQLITE_ROW)
         return readProblem(db, rc, path);
     if (tables != "2")
@@ -235,7 +243,8 @@ QString checkHeader(const QByteArray& head, const QString& path)
         return QStringLiteral("%1 is an SQLite database, but not a project file.").arg(path);
     const quint32 version = bigEndianWord(head, kHeaderUserVersion);
     if (version != quint32(kZobFormatVersion))
-        return QStringLiteral("The project file %1 has format version %2; this program reads version %3 only.")
+        return QStringLiteral(
+                   "The project file %1 has format version %2; this program reads version %3 only.")
             .arg(path)
             .arg(version)
             .arg(kZobFormatVersion);
@@ -326,9 +335,9 @@ int vkd_zob_open(const QString& path, ZobOpenMode mode, QString* error)
     if (create) {
         // The header words and the tables land in one transaction: a file is a whole project or
         // none. The rollback journal keeps readers from writing anything beside the file.
-        const QByteArray init = "BEGIN IMMEDIATE;PRAGMA application_id=" + QByteArray::number(kApplicationId)
-                                + ";PRAGMA user_version=" + QByteArray::number(kZobFormatVersion) + ";" + kSchema
-                                + "COMMIT;";
+        const QByteArray init =
+            "BEGIN IMMEDIATE;PRAGMA application_id=" + QByteArray::number(kApplicationId) +
+            ";PRAGMA user_version=" + QByteArray::number(kZobFormatVersion) + ";" + kSchema + "COMMIT;";
         if (!execScript(db, init.constData())) {
             const QString msg = QString::fromUtf8(sqlite3_errmsg(db));
             sqlite3_close(db);
@@ -479,7 +488,8 @@ zob_status_t vkd_zob_put(int index, int key1, int key2, const void* record, cons
         }
     }
     if (status == ZOB_OK && (*length > 0 || position == 1)) {
-        sqlite3_stmt* ins = d->statement("INSERT INTO zob_record(key1, key2, pos, data) VALUES(?1, ?2, ?3, ?4)");
+        sqlite3_stmt* ins =
+            d->statement("INSERT INTO zob_record(key1, key2, pos, data) VALUES(?1, ?2, ?3, ?4)");
         if (!ins) {
             status = ZOB_FAILED;
         } else {
@@ -525,9 +535,10 @@ void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode)
     Database* d = database(index);
     sqlite3_stmt* st = nullptr;
     if (d)
-        st = d->statement(mode == 1 ? "SELECT key1, key2 FROM zob_record WHERE key1=?1 AND key2>=?2 AND pos=0"
-                                      " ORDER BY key2 LIMIT 1"
-                                    : "SELECT key1, key2 FROM zob_record WHERE key1=?1 AND key2=?2 AND pos=0");
+        st =
+            d->statement(mode == 1 ? "SELECT key1, key2 FROM zob_record WHERE key1=?1 AND key2>=?2 AND pos=0"
+                                     " ORDER BY key2 LIMIT 1"
+                                   : "SELECT key1, key2 FROM zob_record WHERE key1=?1 AND key2=?2 AND pos=0");
     if (st) {
         sqlite3_bind_int(st, 1, *key1);
         sqlite3_bind_int(st, 2, *key2);

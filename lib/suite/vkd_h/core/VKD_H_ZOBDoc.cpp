@@ -21,8 +21,7 @@ ZobOpenMode storeMode(VKD_H_ZOBDoc::OpenMode mode)
 
 } // namespace
 
-VKD_H_ZOBDoc::VKD_H_ZOBDoc(const QString& path, OpenMode mode)
-    : m_path(path)
+VKD_H_ZOBDoc::VKD_H_ZOBDoc(const QString& path, OpenMode mode) : m_path(path)
 {
     m_index = vkd_zob_open(path, storeMode(mode), &m_error);
 }

@@ -8,7 +8,8 @@
 class VKD_H_ZOBDoc
 {
 public:
-    enum OpenMode {
+    enum OpenMode
+    {
         OpenExisting, // for editing; a write-protected project opens for reading only
         OpenOrCreate, // as OpenExisting, or a new project where there is none or an empty file
         ReadOnly,     // never writes anything, not even a journal
