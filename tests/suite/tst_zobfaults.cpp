@@ -512,12 +512,13 @@ void TestZobFaults::twoWritersInTurn()
     const QString file = m_dir.filePath(QStringLiteral("shared.vkd"));
     QVERIFY(makeProject(file, {}));
     constexpr int kGroups = 200;
-    constexpr int kWrites = 15;
+    Trials trials("two writers (a trial is three writes of each)");
+    const int writes = 3 * trials.count;
     QProcess first, second;
     for (QProcess* p : {&first, &second})
         p->start(QStringLiteral(ZOB_PROBE),
                  {QStringLiteral("design"), file, QString::number(p == &first ? 1 : 2),
-                  QString::number(kGroups), QString::number(kWrites)});
+                  QString::number(kGroups), QString::number(writes)});
     sqlite3* db = nullptr;
     QCOMPARE(sqlite3_open_v2(QFile::encodeName(file).constData(), &db, SQLITE_OPEN_READONLY, nullptr),
              SQLITE_OK);
@@ -546,16 +547,18 @@ void TestZobFaults::twoWritersInTurn()
                                 ? QStringLiteral("type %1").arg(*types.begin())
                                 : QStringLiteral("%1 records, %2 types").arg(count).arg(types.size());
         ++seen[set];
-        QThread::msleep(5);
+        QThread::msleep(1);
         QCoreApplication::processEvents();
     }
     sqlite3_close(db);
     first.waitForFinished(60000);
     second.waitForFinished(60000);
-    QCOMPARE(first.readAllStandardOutput().count("wrote"), kWrites);
-    QCOMPARE(second.readAllStandardOutput().count("wrote"), kWrites);
+    QCOMPARE(first.readAllStandardOutput().count("wrote"), writes);
+    QCOMPARE(second.readAllStandardOutput().count("wrote"), writes);
     QCOMPARE(first.exitCode(), 0);
     QCOMPARE(second.exitCode(), 0);
+    qInfo("two writers: %d writes each; %d reads saw the first writer's set, %d the second's, %d none yet",
+          writes, seen.value("type 1"), seen.value("type 2"), seen.value("none"));
     seen.remove(QStringLiteral("none"));
     seen.remove(QStringLiteral("type 1"));
     seen.remove(QStringLiteral("type 2"));
