@@ -101,6 +101,40 @@ template <typename Record> std::vector<Record> readAll(int index, int key1, int 
 // Replaces the records of a key pair.
 template <typename Record> void writeAll(int index, int key1, const std::vector<Record>& records, int key2 = 1);
 
+// The camera of the 3D preview: turned by azimuth about the global Z axis and raised by elevation
+// (degrees), scaled by zoom and shifted on the screen by pan (fractions of the view's size).
+struct Camera
+{
+    double azimuth = 30.0;
+    double elevation = 25.0;
+    double zoom = 1.0;
+    double panX = 0.0;
+    double panY = 0.0;
+};
+
+// Forms of the camera as text.
+enum CameraForm : int {
+    // The standpoint as GRAV reads it behind "STAN": the direction from the model towards the
+    // eye, "X 0.5 Y -0.7 Z 0.5".
+    CameraScriptForm = 1,
+    // All five values, as the page keeps them: "30 25 1 0 0".
+    CameraPersistentForm = 2,
+};
+QString cameraText(const Camera& camera, int form);
+// Reads the persistent form; false, and camera unchanged, for text that is not one.
+bool cameraFromText(const QString& text, Camera* camera);
+
+// The project that the desktop works on: the camera calls below speak of it. The last project
+// opened becomes current; 0 (the scratch database) when none is open.
+void setCurrentProject(int index);
+int currentProject();
+// The stored camera of the current project in the given form; empty if it stores none. The
+// first argument is the view, always 0.
+QString getAnimatorPerspektive(int view, int form);
+// Stores a camera given in the persistent form in the current project; text that is not one is
+// not stored.
+void setAnimatorPerspektive(int view, const QString& persistent);
+
 QString groupTitle(const GroupRecord& g);
 GroupRecord makeGroup(int number, const QString& title);
 LoadCaseRecord makeLoadCase(int number, int kind, const QString& title);
