@@ -61,7 +61,8 @@ public:
 
 public slots:
     // The load case rows of the tree; a list equal to the present one changes nothing.
-    void setUsedNumbersAndNames(const std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>& lc_infos);
+    void setUsedNumbersAndNames(
+        const std::vector<vkd::plib::widgetgraphicaloutput::LoadcaseInformation>& lc_infos);
     // The tree's default choice and the default settings; the scale list and the sheet division
     // keep their rows.
     void slotDefaultSettings();

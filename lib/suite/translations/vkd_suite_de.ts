@@ -27,4 +27,9 @@
     <name>VKD_T_Help</name>
     <message><source>Help: %1</source><translation>Hilfe: %1</translation></message>
 </context>
+<context>
+    <name>VKD_H_BoxedLineEdit</name>
+    <message><source>&quot;%1&quot; is no number from %2 to %3; %4 stays in use.</source><translation>„%1“ ist keine Zahl von %2 bis %3; %4 bleibt gültig.</translation></message>
+    <message><source>&quot;%1&quot; is no number; %2 stays in use.</source><translation>„%1“ ist keine Zahl; %2 bleibt gültig.</translation></message>
+</context>
 </TS>

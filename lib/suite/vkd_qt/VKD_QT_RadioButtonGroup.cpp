@@ -9,12 +9,8 @@ VKD_QT_RadioButtonGroup::VKD_QT_RadioButtonGroup(const QString& title,
                                                  const std::vector<StructRadioButtonGrup>& items,
                                                  QWidget* parent, const char* name,
                                                  Qt::Orientation orientation, int count)
-    : VKD_QT_GroupBox(title, parent, name),
-      m_items(items),
-      m_widgets(items.size(), nullptr),
-      m_group(new QButtonGroup(this)),
-      m_grid(new QGridLayout(this)),
-      m_orientation(orientation),
+    : VKD_QT_GroupBox(title, parent, name), m_items(items), m_widgets(items.size(), nullptr),
+      m_group(new QButtonGroup(this)), m_grid(new QGridLayout(this)), m_orientation(orientation),
       m_count(count)
 {
     for (std::size_t i = 0; i < items.size(); ++i) {

@@ -132,12 +132,12 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(QWidget* parent,
     data->defaultButton->setToolTip(tr("All settings on this page will be set to the default"));
     data->attribs = new QWidget(box);
     data->attribs->setObjectName(QStringLiteral("GroupBox attribs"));
-    data->scaleGroup = new VKD_QT_RadioButtonGroup(tr("Scale"), scaleEntries, data->attribs, "ScaleGroup",
-                                                   Qt::Vertical, -1);
+    data->scaleGroup =
+        new VKD_QT_RadioButtonGroup(tr("Scale"), scaleEntries, data->attribs, "ScaleGroup", Qt::Vertical, -1);
 
     if (split) {
-        data->pageSplitBox = new VKD_QT_GroupBox(tr("Page Splitting", "Blattteilung"), data->attribs,
-                                                 "BLATTTEILUNG");
+        data->pageSplitBox =
+            new VKD_QT_GroupBox(tr("Page Splitting", "Blattteilung"), data->attribs, "BLATTTEILUNG");
         auto* splitLayout = new VKD_QT_VBoxLayout(data->pageSplitBox, "page splitting layout");
         data->pageSplitCombo = new VKD_QT4_ComboBox(data->pageSplitBox, "COMBO_PAGESPLITTING");
         for (int id = 0; id < pageSplitCount; ++id)
@@ -175,15 +175,15 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(QWidget* parent,
         attribsGrid->addWidget(data->fillCheck, 1, 4);
 
     if (!split)
-        data->viewGroup = new VKD_QT_RadioButtonGroup(tr("View"), viewEntries, box, "PerspectiveGroup",
-                                                      Qt::Horizontal, 3);
+        data->viewGroup =
+            new VKD_QT_RadioButtonGroup(tr("View"), viewEntries, box, "PerspectiveGroup", Qt::Horizontal, 3);
 
     data->scaleCombo = new VKD_QT4_ComboBox(data->scaleGroup->box(), "box_scale");
     data->scaleGroup->setWidget(0, data->scaleCombo);
     data->scaleGroup->init(scaleEntries);
     data->scaleCombo->addItem(QIcon(), tr("Auto"));
-    for (const char* scale : {"1:1", "1:2", "1:5", "1:10", "1:20", "1:25", "1:50", "1:100", "1:200", "1:500",
-                              "1:1000"})
+    for (const char* scale :
+         {"1:1", "1:2", "1:5", "1:10", "1:20", "1:25", "1:50", "1:100", "1:200", "1:500", "1:1000"})
         data->scaleCombo->addItem(QIcon(), QString::fromLatin1(scale));
     data->scaleCombo->setCurrentIndex(0);
 
@@ -219,7 +219,8 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(QWidget* parent,
     pageGrid->addWidget(box, 0, 0, 1, 2);
     pageGrid->addWidget(data->defaultButton, 1, 1);
 
-    connect(data->defaultButton, &QPushButton::clicked, this, &VKD_P_WidgetGraphicalOutput::slotDefaultSettings);
+    connect(data->defaultButton, &QPushButton::clicked, this,
+            &VKD_P_WidgetGraphicalOutput::slotDefaultSettings);
     if (data->formatGroup)
         for (int format : {Portrait, Landscape})
             connect(data->formatGroup->getRadioButton(format), &QRadioButton::clicked, this,
@@ -231,7 +232,8 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(QWidget* parent,
         if (!data->dialog)
             data->dialog = qobject_cast<VKD_H_Dialog*>(ancestor);
         if (auto* tabs = qobject_cast<VKD_QT_TabDialog*>(ancestor)) {
-            connect(tabs, &VKD_QT_TabDialog::currentChanged, this, &VKD_P_WidgetGraphicalOutput::slotCurrentChanged);
+            connect(tabs, &VKD_QT_TabDialog::currentChanged, this,
+                    &VKD_P_WidgetGraphicalOutput::slotCurrentChanged);
             break;
         }
     }

@@ -52,14 +52,17 @@ void VKD_P_WidgetGraphicalOutput_TableWidgetData::reset()
     std::vector<TableLoadcase> cases;
     for (int row = 0; row < data->table->rowCount(); ++row) {
         if (data->checkColumn >= 0) {
-            const auto* check = dynamic_cast<VKD_H_TwSimpleCheckBoxItem*>(data->table->item(row, data->checkColumn));
+            const auto* check =
+                dynamic_cast<VKD_H_TwSimpleCheckBoxItem*>(data->table->item(row, data->checkColumn));
             if (!check || !check->isChecked())
                 continue;
         }
-        const auto* number = dynamic_cast<VKD_H_TwSimpleLineEditItem*>(data->table->item(row, data->numberColumn));
+        const auto* number =
+            dynamic_cast<VKD_H_TwSimpleLineEditItem*>(data->table->item(row, data->numberColumn));
         if (!number)
             continue;
-        const QTableWidgetItem* title = data->titleColumn >= 0 ? data->table->item(row, data->titleColumn) : nullptr;
+        const QTableWidgetItem* title =
+            data->titleColumn >= 0 ? data->table->item(row, data->titleColumn) : nullptr;
         cases.push_back({number->getVal(nullptr), title ? title->text() : QString()});
     }
     data->tree->setUsedNumbersAndNames(loadcaseRows(cases));

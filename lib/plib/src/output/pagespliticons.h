@@ -5,7 +5,8 @@
 namespace vkd::plib::widgetgraphicaloutput {
 
 // The divisions of a sheet that the split variant offers, by the ids of its combo.
-enum PageSplit : int {
+enum PageSplit : int
+{
     PortraitWhole = 0,
     PortraitTwoRows = 1,
     PortraitTwoByTwo = 2,

@@ -8,11 +8,9 @@
 #include <cmath>
 
 VKD_H_BoxedLineEdit::VKD_H_BoxedLineEdit(QWidget* parent, StructBoxedEdit* description, const char* name)
-    : QWidget(parent),
-      m_description(description ? description->lineEdit : StructLineEdit()),
+    : QWidget(parent), m_description(description ? description->lineEdit : StructLineEdit()),
       m_toolTip(description ? description->toolTip : QString()),
-      m_label(new QLabel(description ? description->label : QString(), this)),
-      m_edit(new QLineEdit(this))
+      m_label(new QLabel(description ? description->label : QString(), this)), m_edit(new QLineEdit(this))
 {
     if (name)
         setObjectName(QString::fromLatin1(name));

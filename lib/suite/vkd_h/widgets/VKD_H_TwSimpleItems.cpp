@@ -4,8 +4,7 @@
 
 #include <cmath>
 
-VKD_H_TwSimpleCheckBoxItem::VKD_H_TwSimpleCheckBoxItem(bool checked)
-    : QTableWidgetItem(Type)
+VKD_H_TwSimpleCheckBoxItem::VKD_H_TwSimpleCheckBoxItem(bool checked) : QTableWidgetItem(Type)
 {
     setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     setCheckState(checked ? Qt::Checked : Qt::Unchecked);
@@ -26,8 +25,7 @@ QTableWidgetItem* VKD_H_TwSimpleCheckBoxItem::clone() const
     return new VKD_H_TwSimpleCheckBoxItem(*this);
 }
 
-VKD_H_TwSimpleLineEditItem::VKD_H_TwSimpleLineEditItem(const QString& text)
-    : QTableWidgetItem(text, Type)
+VKD_H_TwSimpleLineEditItem::VKD_H_TwSimpleLineEditItem(const QString& text) : QTableWidgetItem(text, Type)
 {
     setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }

@@ -6,7 +6,10 @@
 class VKD_H_TwSimpleCheckBoxItem : public QTableWidgetItem
 {
 public:
-    enum { Type = QTableWidgetItem::UserType + 2 };
+    enum
+    {
+        Type = QTableWidgetItem::UserType + 2
+    };
     explicit VKD_H_TwSimpleCheckBoxItem(bool checked = false);
     bool isChecked() const;
     void setChecked(bool checked);
@@ -17,7 +20,10 @@ public:
 class VKD_H_TwSimpleLineEditItem : public QTableWidgetItem
 {
 public:
-    enum { Type = QTableWidgetItem::UserType + 3 };
+    enum
+    {
+        Type = QTableWidgetItem::UserType + 3
+    };
     explicit VKD_H_TwSimpleLineEditItem(const QString& text = QString());
     // The number of the cell's text; 0 with *ok false if the text is no number. ok may be null.
     double getVal(bool* ok) const;
