@@ -1,5 +1,6 @@
-// Draws the figures of the library's two resource blocks. Run it by hand after a change of a
-// figure and commit the PNGs it writes:  drawfigures <folder>
+// Draws the figures of the library's two resource blocks, and with a second folder the icons
+// of the suite's widget layer. Run it by hand after a change of a figure and commit the PNGs
+// it writes:  drawfigures <folder> [<icon folder>]
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
@@ -280,6 +281,24 @@ void drawBearing(QPainter& p, QSize size, int kind)
         p.drawEllipse(QPointF(w / 2, h / 2), 12, 6);
 }
 
+// A pocket calculator: display and keys, readable at 16 pixels.
+void drawCalculator(QPainter& p, QSize size)
+{
+    const double w = size.width(), h = size.height();
+    p.setPen(QPen(kInk, 1.5));
+    p.setBrush(QColor(0x50, 0x58, 0x68));
+    p.drawRoundedRect(QRectF(w * 0.16, 1, w * 0.68, h - 2), 3, 3);
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(0xc8, 0xe6, 0xc0));
+    p.drawRect(QRectF(w * 0.25, h * 0.1, w * 0.5, h * 0.2));
+    const double key = w * 0.14, gap = w * 0.04;
+    for (int r = 0; r < 3; ++r)
+        for (int c = 0; c < 3; ++c) {
+            p.setBrush(r == 2 && c == 2 ? QColor(0xe0, 0x80, 0x30) : QColor(0xf0, 0xf0, 0xf0));
+            p.drawRect(QRectF(w * 0.25 + c * (key + gap), h * 0.4 + r * (key + gap), key, key));
+        }
+}
+
 struct Figure
 {
     const char* name;
@@ -293,8 +312,8 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: drawfigures <folder>\n");
+    if (argc != 2 && argc != 3) {
+        std::fprintf(stderr, "usage: drawfigures <folder> [<icon folder>]\n");
         return 2;
     }
     const QDir out(QString::fromLocal8Bit(argv[1]));
@@ -343,6 +362,23 @@ int main(int argc, char** argv)
         if (!image.save(out.filePath(QString::fromLatin1(f.name)))) {
             std::fprintf(stderr, "cannot write %s\n", f.name);
             return 1;
+        }
+    }
+    if (argc == 3) {
+        // Icons have no background, so that they sit on any button.
+        const QDir icons(QString::fromLocal8Bit(argv[2]));
+        const Figure iconFigures[] = {{"calculator.png", {32, 32}, drawCalculator}};
+        for (const Figure& f : iconFigures) {
+            QImage image(f.size, QImage::Format_ARGB32);
+            image.fill(Qt::transparent);
+            QPainter p(&image);
+            p.setRenderHint(QPainter::Antialiasing);
+            f.draw(p, f.size);
+            p.end();
+            if (!image.save(icons.filePath(QString::fromLatin1(f.name)))) {
+                std::fprintf(stderr, "cannot write %s\n", f.name);
+                return 1;
+            }
         }
     }
     return 0;
