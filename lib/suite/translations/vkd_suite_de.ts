@@ -27,4 +27,19 @@
     <name>VKD_T_Help</name>
     <message><source>Help: %1</source><translation>Hilfe: %1</translation></message>
 </context>
+<context>
+    <name>VKD_A_ReinforcementCalculationDialog</name>
+    <message><source>Reinforcement from Bars</source><translation>Bewehrung aus Stäben</translation></message>
+    <message><source>Present value</source><translation>Bisheriger Wert</translation></message>
+    <message><source>not set</source><translation>nicht gesetzt</translation></message>
+    <message><source>Bar</source><translation>Stab</translation></message>
+    <message><source>Spacing</source><translation>Stababstand</translation></message>
+    <message><source>Bars per metre</source><translation>Stäbe je Meter</translation></message>
+    <message><source> /m</source><translation> /m</translation></message>
+    <message><source>Cross section of one bar</source><translation>Querschnitt eines Stabes</translation></message>
+    <message><source>Layers</source><translation>Lagen</translation></message>
+    <message><source>Reinforcement</source><translation>Bewehrung</translation></message>
+    <message><source> cm²</source><translation> cm²</translation></message>
+    <message><source>no bar chosen</source><translation>kein Stab gewählt</translation></message>
+</context>
 </TS>
