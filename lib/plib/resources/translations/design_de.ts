@@ -85,4 +85,102 @@ Möglicher Datenverlust!</translation>
         <translation>Löschen</translation>
     </message>
 </context>
+<context>
+    <name>dlgReinforcement</name>
+    <message>
+        <source>Reinforcement</source>
+        <translation>Bewehrung</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Lower</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Principal Reinforcement</source>
+        <translation>Hauptbewehrung</translation>
+    </message>
+    <message>
+        <source>Cross Reinforcement</source>
+        <translation>Querbewehrung</translation>
+    </message>
+    <message>
+        <source>Third Layer</source>
+        <translation>Dritte Lage</translation>
+    </message>
+    <message>
+        <source>Diameter</source>
+        <translation>Durchmesser</translation>
+    </message>
+    <message>
+        <source>Min. Reinforcement</source>
+        <translation>Min. Bewehrung</translation>
+    </message>
+    <message>
+        <source>Max. Reinforcement</source>
+        <translation>Max. Bewehrung</translation>
+    </message>
+    <message>
+        <source>max. Reinforcement</source>
+        <translation>max. Bewehrung</translation>
+    </message>
+    <message>
+        <source>Minimum Reinforcement</source>
+        <translation>Mindestbewehrung</translation>
+    </message>
+    <message>
+        <source>Maximum Reinforcement</source>
+        <translation>Höchstbewehrung</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Min greater than Max is not allowed!</source>
+        <translation>Min größer als Max ist nicht zulässig!</translation>
+    </message>
+</context>
+<context>
+    <name>dlgCrackControl</name>
+    <message>
+        <source>Crack Control</source>
+        <translation>Rissbreitenbegrenzung</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Lower</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Principal Reinforcement</source>
+        <translation>Hauptbewehrung</translation>
+    </message>
+    <message>
+        <source>Cross Reinforcement</source>
+        <translation>Querbewehrung</translation>
+    </message>
+    <message>
+        <source>Third Layer</source>
+        <translation>Dritte Lage</translation>
+    </message>
+    <message>
+        <source>Crack width</source>
+        <translation>Rissbreite</translation>
+    </message>
+    <message>
+        <source>Steel stress</source>
+        <translation>Stahlspannung</translation>
+    </message>
+    <message>
+        <source>Permissible crack width for crack width control with or without direct calculation. Crack width control acc. to EN 1992-1-1, table 7.3N requires input for permissible steel stress.</source>
+        <translation>Zulässige Rissbreite für die Begrenzung der Rissbreite mit oder ohne direkte Berechnung. Die Begrenzung der Rissbreite nach EN 1992-1-1, Tabelle 7.3N, erfordert die Eingabe der zulässigen Stahlspannung.</translation>
+    </message>
+</context>
 </TS>

@@ -3,6 +3,8 @@
 #include "DesignParameterTable.h"
 #include "designrecord.h"
 #include "designstore.h"
+#include "dlgCrackControl.h"
+#include "dlgReinforcement.h"
 #include "projectentries.h"
 #include "rowtext.h"
 
@@ -378,9 +380,31 @@ void DesignParameter::slot_editCellWidget()
 // as it is.
 void DesignParameter::slot_editButtonClicked() {}
 
-void DesignParameter::slot_calcReinforcementButtonClicked() {}
+void DesignParameter::slot_calcReinforcementButtonClicked()
+{
+    const int r = data->table->currentRow();
+    if (!isRowNumber(r))
+        return;
+    tagZOB_QUAD_RIM* record = &rowAt(r).record;
+    dlgReinforcement dialog(indexOf(data->doc), record, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    dialog.writeToRecord(record);
+    refreshRows(r);
+}
 
-void DesignParameter::slot_calcCrackButtonClicked() {}
+void DesignParameter::slot_calcCrackButtonClicked()
+{
+    const int r = data->table->currentRow();
+    if (!isRowNumber(r))
+        return;
+    tagZOB_QUAD_RIM* record = &rowAt(r).record;
+    dlgCrackControl dialog(record, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    dialog.writeToRecord(record);
+    refreshRows(r);
+}
 
 void DesignParameter::slot_openGroups() {}
 
