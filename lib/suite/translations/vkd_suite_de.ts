@@ -28,6 +28,14 @@
     <message><source>Help: %1</source><translation>Hilfe: %1</translation></message>
 </context>
 <context>
+    <name>VKD_H_LineEdit</name>
+    <message><source>&quot;%1&quot; is not a number.</source><translation>„%1“ ist keine Zahl.</translation></message>
+    <message><source>&quot;%1&quot; is not a whole number.</source><translation>„%1“ ist keine ganze Zahl.</translation></message>
+    <message><source>A value is required.</source><translation>Ein Wert ist erforderlich.</translation></message>
+    <message><source>The value must lie between %1 and %2.</source><translation>Der Wert muss zwischen %1 und %2 liegen.</translation></message>
+    <message><source>The stored value &quot;%1&quot; is not a number. Enter a value or empty the field.</source><translation>Der gespeicherte Wert „%1“ ist keine Zahl. Geben Sie einen Wert ein oder leeren Sie das Feld.</translation></message>
+</context>
+<context>
     <name>VKD_A_ReinforcementCalculationDialog</name>
     <message><source>Reinforcement from Bars</source><translation>Bewehrung aus Stäben</translation></message>
     <message><source>Present value</source><translation>Bisheriger Wert</translation></message>

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+
+// A note for the user: an information icon (if showIcon) beside a word-wrapped text.
+class VKD_QT_InfoText : public QWidget
+{
+    Q_OBJECT
+public:
+    VKD_QT_InfoText(bool showIcon, const QString& text, QWidget* parent = nullptr,
+                    const char* name = nullptr);
+    QString text() const;
+    void setText(const QString& text);
+
+private:
+    QLabel* m_text;
+};
