@@ -4,6 +4,7 @@
 #include "designrecord.h"
 
 #include <VKD_H_LineEdit.h>
+#include <VKD_H_TwHeaderLineEditItem.h>
 #include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_GroupBox.h>
 #include <VKD_QT_InfoText.h>
@@ -28,6 +29,8 @@ enum GridColumn
 const double kCrackPresets[] = {0.2, 0.3, 0.4};
 const double kStressPresets[] = {160, 200, 240, 280, 320, 360, 400, 450};
 constexpr int kPresetDecimals = 2;
+// Room for the widest value and its unit, which sits inside the edit.
+constexpr int kComboCharacters = 10;
 
 } // namespace
 
@@ -60,19 +63,19 @@ const dlgCrackControl::Field dlgCrackControl::kFields[12] = {
 };
 
 dlgCrackControl::dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent)
-    : VKD_QT_Dialog(parent)
-    , type(record->type)
+    : VKD_QT_Dialog(parent), type(record->type)
 {
     setUpDesignDialog(this, tr("Crack Control"));
 
     auto* layout = new VKD_QT_VBoxLayout;
     layout->addWidget(buildGroup(true));
     layout->addWidget(buildGroup(false));
-    layout->addWidget(new VKD_QT_InfoText(true,
-                                          tr("Permissible crack width for crack width control with or without direct "
-                                             "calculation. Crack width control acc. to EN 1992-1-1, table 7.3N "
-                                             "requires input for permissible steel stress."),
-                                          this, "infoCrack"));
+    layout->addWidget(
+        new VKD_QT_InfoText(true,
+                            tr("Permissible crack width for crack width control with or without direct "
+                               "calculation. Crack width control acc. to EN 1992-1-1, table 7.3N "
+                               "requires input for permissible steel stress."),
+                            this, "infoCrack"));
     auto* buttons = new VKD_QT_Ok(this, 3, "okayandcancelbutton");
     layout->addWidget(buttons);
     connectButtonRow(this, buttons);
@@ -87,7 +90,8 @@ dlgCrackControl::dlgCrackControl(tagZOB_QUAD_RIM* record, QWidget* parent)
 
 VKD_QT_GroupBox* dlgCrackControl::buildGroup(bool upper)
 {
-    auto* group = upper ? new VKD_QT_GroupBox(tr("Upper"), this, "upper") : new VKD_QT_GroupBox(tr("Lower"), this, "Lower");
+    auto* group = upper ? new VKD_QT_GroupBox(tr("Upper"), this, "upper")
+                        : new VKD_QT_GroupBox(tr("Lower"), this, "Lower");
     auto* grid = new VKD_QT_GridLayout(group);
     grid->addWidget(new QLabel(tr("Crack width"), group), 0, ColumnCrackWidth);
     grid->addWidget(new QLabel(tr("Steel stress"), group), 0, ColumnSteelStress);
@@ -105,15 +109,20 @@ VKD_QT_GroupBox* dlgCrackControl::buildGroup(bool upper)
             continue;
         auto* combo = new VKD_QT4_ComboBox(this, f.comboName);
         combo->setEditable(true);
+        // A typed value is a value, not a new preset.
+        combo->setInsertPolicy(QComboBox::NoInsert);
+        combo->setMinimumContentsLength(kComboCharacters);
         auto* edit = new VKD_H_LineEdit(this, f.crack ? &crackDescription : &stressDescription, f.editName,
                                         f.crack ? tr("Crack width") : tr("Steel stress"), QString(), true);
         combo->setLineEdit(edit);
         if (f.crack)
             for (double value : kCrackPresets)
-                combo->insertItem(combo->count(), QIcon(), QString::number(value, 'f', kPresetDecimals), QVariant());
+                combo->insertItem(combo->count(), QIcon(), QString::number(value, 'f', kPresetDecimals),
+                                  QVariant());
         else
             for (double value : kStressPresets)
-                combo->insertItem(combo->count(), QIcon(), QString::number(value, 'f', kPresetDecimals), QVariant());
+                combo->insertItem(combo->count(), QIcon(), QString::number(value, 'f', kPresetDecimals),
+                                  QVariant());
         this->*f.combo = combo;
         grid->addWidget(combo, f.row, f.crack ? ColumnCrackWidth : ColumnSteelStress);
     }
@@ -130,7 +139,8 @@ void dlgCrackControl::writeToRecord(tagZOB_QUAD_RIM* record)
                 record->*f.field = float(edit->getVal());
 }
 
+// Nothing to compare: the base class only keeps text a field refuses from being accepted.
 void dlgCrackControl::accept()
 {
-    QDialog::accept();
+    VKD_QT_Dialog::accept();
 }

@@ -6,6 +6,7 @@
 #include <VKD_A_BarDiameterCombo.h>
 #include <VKD_A_ReinforcementCalculation.h>
 #include <VKD_H_LineEdit.h>
+#include <VKD_H_TwHeaderLineEditItem.h>
 #include <VKD_QT_GroupBox.h>
 #include <VKD_QT_Layouts.h>
 #include <VKD_QT_MessageBox.h>
@@ -54,29 +55,28 @@ struct dlgReinforcement::Layer
 };
 
 const dlgReinforcement::Layer dlgReinforcement::kLayers[6] = {
-    {QT_TR_NOOP("Principal Reinforcement"), "m_pDIO", &dlgReinforcement::m_pDIO, "aso", &dlgReinforcement::aso, "amo",
-     &dlgReinforcement::amo, &tagZOB_QUAD_RIM::dio, &tagZOB_QUAD_RIM::aso, &tagZOB_QUAD_RIM::amo,
-     &dlgReinforcement::calcO, &dlgReinforcement::calcMaxO},
-    {QT_TR_NOOP("Principal Reinforcement"), "m_pDIU", &dlgReinforcement::m_pDIU, "asu", &dlgReinforcement::asu, "amu",
-     &dlgReinforcement::amu, &tagZOB_QUAD_RIM::diu, &tagZOB_QUAD_RIM::asu, &tagZOB_QUAD_RIM::amu,
-     &dlgReinforcement::calcU, &dlgReinforcement::calcMaxU},
-    {QT_TR_NOOP("Cross Reinforcement"), "m_pDIOQ", &dlgReinforcement::m_pDIOQ, "asoq", &dlgReinforcement::asoq, "amoq",
-     &dlgReinforcement::amoq, &tagZOB_QUAD_RIM::dioq, &tagZOB_QUAD_RIM::asoq, &tagZOB_QUAD_RIM::amoq,
-     &dlgReinforcement::calcOQ, &dlgReinforcement::calcMaxOQ},
-    {QT_TR_NOOP("Cross Reinforcement"), "m_pDIUQ", &dlgReinforcement::m_pDIUQ, "asuq", &dlgReinforcement::asuq, "amuq",
-     &dlgReinforcement::amuq, &tagZOB_QUAD_RIM::diuq, &tagZOB_QUAD_RIM::asuq, &tagZOB_QUAD_RIM::amuq,
-     &dlgReinforcement::calcUQ, &dlgReinforcement::calcMaxUQ},
-    {QT_TR_NOOP("Third Layer"), "m_pDIOI", &dlgReinforcement::m_pDIOI, "asoi", &dlgReinforcement::asoi, "amoi",
-     &dlgReinforcement::amoi, &tagZOB_QUAD_RIM::dioi, &tagZOB_QUAD_RIM::asoi, &tagZOB_QUAD_RIM::amoi,
+    {QT_TR_NOOP("Principal Reinforcement"), "m_pDIO", &dlgReinforcement::m_pDIO, "aso",
+     &dlgReinforcement::aso, "amo", &dlgReinforcement::amo, &tagZOB_QUAD_RIM::dio, &tagZOB_QUAD_RIM::aso,
+     &tagZOB_QUAD_RIM::amo, &dlgReinforcement::calcO, &dlgReinforcement::calcMaxO},
+    {QT_TR_NOOP("Principal Reinforcement"), "m_pDIU", &dlgReinforcement::m_pDIU, "asu",
+     &dlgReinforcement::asu, "amu", &dlgReinforcement::amu, &tagZOB_QUAD_RIM::diu, &tagZOB_QUAD_RIM::asu,
+     &tagZOB_QUAD_RIM::amu, &dlgReinforcement::calcU, &dlgReinforcement::calcMaxU},
+    {QT_TR_NOOP("Cross Reinforcement"), "m_pDIOQ", &dlgReinforcement::m_pDIOQ, "asoq",
+     &dlgReinforcement::asoq, "amoq", &dlgReinforcement::amoq, &tagZOB_QUAD_RIM::dioq, &tagZOB_QUAD_RIM::asoq,
+     &tagZOB_QUAD_RIM::amoq, &dlgReinforcement::calcOQ, &dlgReinforcement::calcMaxOQ},
+    {QT_TR_NOOP("Cross Reinforcement"), "m_pDIUQ", &dlgReinforcement::m_pDIUQ, "asuq",
+     &dlgReinforcement::asuq, "amuq", &dlgReinforcement::amuq, &tagZOB_QUAD_RIM::diuq, &tagZOB_QUAD_RIM::asuq,
+     &tagZOB_QUAD_RIM::amuq, &dlgReinforcement::calcUQ, &dlgReinforcement::calcMaxUQ},
+    {QT_TR_NOOP("Third Layer"), "m_pDIOI", &dlgReinforcement::m_pDIOI, "asoi", &dlgReinforcement::asoi,
+     "amoi", &dlgReinforcement::amoi, &tagZOB_QUAD_RIM::dioi, &tagZOB_QUAD_RIM::asoi, &tagZOB_QUAD_RIM::amoi,
      &dlgReinforcement::calcOI, &dlgReinforcement::calcMaxOI},
-    {QT_TR_NOOP("Third Layer"), "m_pDIUI", &dlgReinforcement::m_pDIUI, "asui", &dlgReinforcement::asui, "amui",
-     &dlgReinforcement::amui, &tagZOB_QUAD_RIM::diui, &tagZOB_QUAD_RIM::asui, &tagZOB_QUAD_RIM::amui,
+    {QT_TR_NOOP("Third Layer"), "m_pDIUI", &dlgReinforcement::m_pDIUI, "asui", &dlgReinforcement::asui,
+     "amui", &dlgReinforcement::amui, &tagZOB_QUAD_RIM::diui, &tagZOB_QUAD_RIM::asui, &tagZOB_QUAD_RIM::amui,
      &dlgReinforcement::calcUI, &dlgReinforcement::calcMaxUI},
 };
 
 dlgReinforcement::dlgReinforcement(int zobIndex, tagZOB_QUAD_RIM* record, QWidget* parent)
-    : VKD_QT_Dialog(parent)
-    , zobIndex(zobIndex)
+    : VKD_QT_Dialog(parent), zobIndex(zobIndex)
 {
     setUpDesignDialog(this, tr("Reinforcement"));
     StructLineEdit description = VKD_H_TwHeaderLineEditItem::getDefaultStrcLe(VKD_H_DIM_REINFORCEMENT);
@@ -105,11 +105,13 @@ dlgReinforcement::dlgReinforcement(int zobIndex, tagZOB_QUAD_RIM* record, QWidge
 
 VKD_QT_GroupBox* dlgReinforcement::buildGroup(bool upper, bool thirdLayer, StructLineEdit* description)
 {
-    auto* group = upper ? new VKD_QT_GroupBox(tr("Upper"), this, "upper") : new VKD_QT_GroupBox(tr("Lower"), this, "Lower");
+    auto* group = upper ? new VKD_QT_GroupBox(tr("Upper"), this, "upper")
+                        : new VKD_QT_GroupBox(tr("Lower"), this, "Lower");
     auto* grid = new VKD_QT_GridLayout(group);
     grid->addWidget(new QLabel(tr("Diameter"), group), 0, ColumnDiameter);
     grid->addWidget(new QLabel(tr("Min. Reinforcement"), group), 0, ColumnMinimum);
-    grid->addWidget(new QLabel(upper ? tr("Max. Reinforcement") : tr("max. Reinforcement"), group), 0, ColumnMaximum);
+    grid->addWidget(new QLabel(upper ? tr("Max. Reinforcement") : tr("max. Reinforcement"), group), 0,
+                    ColumnMaximum);
 
     const QIcon calculator = vkd::qt::icon(QStringLiteral(":/icon/program/calculator"));
     auto calcButton = [&](int row, int column, void (dlgReinforcement::*slot)()) {
@@ -166,20 +168,27 @@ bool dlgReinforcement::checkMinMax(float minimum, float maximum)
 {
     if (minimum == kNotSet || maximum == kNotSet || maximum >= minimum)
         return true;
-    VKD_QT_MessageBox::warning(this, tr("Warning"), tr("Min greater than Max is not allowed!"), QString(), QString(),
-                               QString(), 0, -1);
+    VKD_QT_MessageBox::warning(this, tr("Warning"), tr("Min greater than Max is not allowed!"), QString(),
+                               QString(), QString(), 0, -1);
     return false;
 }
 
 void dlgReinforcement::accept()
 {
+    // Text a field refuses is put right first; the base class points the user to it.
+    for (const Layer& layer : kLayers)
+        for (const VKD_H_LineEdit* edit : {this->*layer.minimum, this->*layer.maximum})
+            if (edit && !edit->isInputAccepted()) {
+                VKD_QT_Dialog::accept();
+                return;
+            }
     tagZOB_QUAD_RIM scratch{};
     writeToRecord(&scratch);
     // One message per press: the user puts the pairs right one by one.
     for (const Layer& layer : kLayers)
         if (!checkMinMax(scratch.*layer.minimumField, scratch.*layer.maximumField))
             return;
-    QDialog::accept();
+    VKD_QT_Dialog::accept();
 }
 
 void dlgReinforcement::calculate(VKD_A_BarDiameterCombo* combo, VKD_H_LineEdit* edit)
@@ -191,15 +200,51 @@ void dlgReinforcement::calculate(VKD_A_BarDiameterCombo* combo, VKD_H_LineEdit* 
     edit->setVal(double(value));
 }
 
-void dlgReinforcement::calcO() { calculate(m_pDIO, aso); }
-void dlgReinforcement::calcU() { calculate(m_pDIU, asu); }
-void dlgReinforcement::calcOQ() { calculate(m_pDIOQ, asoq); }
-void dlgReinforcement::calcUQ() { calculate(m_pDIUQ, asuq); }
-void dlgReinforcement::calcOI() { calculate(m_pDIOI, asoi); }
-void dlgReinforcement::calcUI() { calculate(m_pDIUI, asui); }
-void dlgReinforcement::calcMaxO() { calculate(m_pDIO, amo); }
-void dlgReinforcement::calcMaxU() { calculate(m_pDIU, amu); }
-void dlgReinforcement::calcMaxOQ() { calculate(m_pDIOQ, amoq); }
-void dlgReinforcement::calcMaxUQ() { calculate(m_pDIUQ, amuq); }
-void dlgReinforcement::calcMaxOI() { calculate(m_pDIOI, amoi); }
-void dlgReinforcement::calcMaxUI() { calculate(m_pDIUI, amui); }
+void dlgReinforcement::calcO()
+{
+    calculate(m_pDIO, aso);
+}
+void dlgReinforcement::calcU()
+{
+    calculate(m_pDIU, asu);
+}
+void dlgReinforcement::calcOQ()
+{
+    calculate(m_pDIOQ, asoq);
+}
+void dlgReinforcement::calcUQ()
+{
+    calculate(m_pDIUQ, asuq);
+}
+void dlgReinforcement::calcOI()
+{
+    calculate(m_pDIOI, asoi);
+}
+void dlgReinforcement::calcUI()
+{
+    calculate(m_pDIUI, asui);
+}
+void dlgReinforcement::calcMaxO()
+{
+    calculate(m_pDIO, amo);
+}
+void dlgReinforcement::calcMaxU()
+{
+    calculate(m_pDIU, amu);
+}
+void dlgReinforcement::calcMaxOQ()
+{
+    calculate(m_pDIOQ, amoq);
+}
+void dlgReinforcement::calcMaxUQ()
+{
+    calculate(m_pDIUQ, amuq);
+}
+void dlgReinforcement::calcMaxOI()
+{
+    calculate(m_pDIOI, amoi);
+}
+void dlgReinforcement::calcMaxUI()
+{
+    calculate(m_pDIUI, amui);
+}
