@@ -4,6 +4,7 @@
 #include "designrecord.h"
 #include "designstore.h"
 #include "dlgCrackControl.h"
+#include "dlgDistanceDirection.h"
 #include "dlgReinforcement.h"
 #include "projectentries.h"
 #include "rowtext.h"
@@ -375,13 +376,25 @@ void DesignParameter::slot_editCellWidget()
     editColumn = col;
 }
 
-// The editors behind the three summary buttons and the group editor of the first column are
-// dialogs of their own that this page does not have yet: until then these slots leave the row
-// as it is.
-void DesignParameter::slot_editButtonClicked() {}
+void DesignParameter::slot_editButtonClicked()
+{
+    if (!data->table)
+        return;
+    const int r = data->table->currentRow();
+    if (!isRowNumber(r))
+        return;
+    DesignParameterRow& row = rowAt(r);
+    dlgDistanceDirection dialog(&row.record, this);
+    if (dialog.exec() == QDialog::Accepted) {
+        dialog.writeToRecord(&row.record);
+        refreshRows(r);
+    }
+}
 
 void DesignParameter::slot_calcReinforcementButtonClicked()
 {
+    if (!data->table)
+        return;
     const int r = data->table->currentRow();
     if (!isRowNumber(r))
         return;
@@ -395,6 +408,8 @@ void DesignParameter::slot_calcReinforcementButtonClicked()
 
 void DesignParameter::slot_calcCrackButtonClicked()
 {
+    if (!data->table)
+        return;
     const int r = data->table->currentRow();
     if (!isRowNumber(r))
         return;
@@ -406,6 +421,8 @@ void DesignParameter::slot_calcCrackButtonClicked()
     refreshRows(r);
 }
 
+// The group editor of the first column is a dialog of its own that this page does not have
+// yet: until then these slots leave the row as it is.
 void DesignParameter::slot_openGroups() {}
 
 void DesignParameter::slot_openSekGroups() {}
