@@ -17,7 +17,6 @@
 #include <VKD_QT_TableWidgetButton.h>
 #include <vkd_q.h>
 
-#include <QDoubleSpinBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -60,34 +59,35 @@ QString changes(const tagZOB_QUAD_RIM& before, const tagZOB_QUAD_RIM& after)
 
 QString describe(QWidget* w)
 {
+    auto edit = [](QWidget* e) {
+        auto* le = qobject_cast<VKD_H_LineEdit*>(e);
+        return le ? QStringLiteral("edit %1 code %2 \"%3\"")
+                        .arg(le->objectName())
+                        .arg(le->description().dimensionCode)
+                        .arg(le->toolTip())
+                  : QStringLiteral("<no edit>");
+    };
     if (auto* label = qobject_cast<QLabel*>(w))
         return QStringLiteral("label \"%1\"").arg(label->text());
-    if (auto* combo = qobject_cast<VKD_A_BarDiameterCombo*>(w))
-        return QStringLiteral("bars %1").arg(combo->objectName());
+    if (qobject_cast<VKD_A_BarDiameterCombo*>(w))
+        return QStringLiteral("bars ") + w->objectName();
     if (auto* combo = qobject_cast<VKD_QT4_ComboBox*>(w)) {
-        auto* edit = qobject_cast<VKD_H_LineEdit*>(combo->lineEdit());
         QStringList presets;
         for (int i = 0; i < combo->count(); ++i)
             presets << combo->itemText(i);
-        return QStringLiteral("combo %1%2 edit %3 code %4 \"%5\" presets %6")
-            .arg(combo->objectName(), combo->isEditable() ? QString() : QStringLiteral(" (not editable)"),
-                 edit ? edit->objectName() : QStringLiteral("<none>"))
-            .arg(edit ? edit->description().dimensionCode : 0)
-            .arg(edit ? edit->toolTip() : QString(), presets.join(QLatin1Char(' ')));
+        return QStringLiteral("combo %1 editable %2 %3 presets %4")
+            .arg(combo->objectName())
+            .arg(combo->isEditable())
+            .arg(edit(combo->lineEdit()), presets.join(QLatin1Char(' ')));
     }
-    if (auto* edit = qobject_cast<VKD_H_LineEdit*>(w))
-        return QStringLiteral("edit %1 code %2 \"%3\"")
-            .arg(edit->objectName())
-            .arg(edit->description().dimensionCode)
-            .arg(edit->toolTip());
+    if (qobject_cast<VKD_H_LineEdit*>(w))
+        return edit(w);
     if (auto* button = qobject_cast<QPushButton*>(w))
-        return QStringLiteral("button %1 \"%2\"%3")
-            .arg(button->objectName(), button->text(),
-                 button->icon().isNull() ? QString() : QStringLiteral(" calculator icon"));
+        return QStringLiteral("button %1 \"%2\" icon %3")
+            .arg(button->objectName(), button->text())
+            .arg(!button->icon().isNull());
     if (auto* info = qobject_cast<VKD_QT_InfoText*>(w))
         return QStringLiteral("info %1 \"%2\"").arg(info->objectName(), info->text());
-    if (qobject_cast<VKD_QT_Ok*>(w))
-        return QStringLiteral("buttons %1").arg(w->objectName());
     return QStringLiteral("%1 %2").arg(QLatin1String(w->metaObject()->className()), w->objectName());
 }
 
@@ -158,14 +158,10 @@ private:
     QTimer m_timer;
 };
 
-QPushButton* okButton(QWidget* dialog)
+QPushButton* button(QWidget* dialog, bool ok)
 {
-    return dialog->findChild<VKD_QT_Ok*>(QStringLiteral("okayandcancelbutton"))->cmdOk();
-}
-
-QPushButton* cancelButton(QWidget* dialog)
-{
-    return dialog->findChild<VKD_QT_Ok*>(QStringLiteral("okayandcancelbutton"))->cmdCancel();
+    auto* row = dialog->findChild<VKD_QT_Ok*>(QStringLiteral("okayandcancelbutton"));
+    return ok ? row->cmdOk() : row->cmdCancel();
 }
 
 void type(QLineEdit* edit, const QString& text)
@@ -247,29 +243,26 @@ private slots:
         QTest::addColumn<QString>("input"); // see enter()
         QTest::addColumn<QString>("written");
         // clang-format off
-        QTest::newRow("reinforcement 1: the third layer is cleared") << false << 1
+        QTest::newRow("reinforcement 1: third layer cleared") << false << 1
             << "dioi=12 asoi=0.0002 amoi=0.0007 amui=0.0009" << ""
             << "dioi=-99999 diui=-99999 asoi=-99999 amoi=-99999 amui=-99999";
-        QTest::newRow("reinforcement 3: amoi opens with amui") << false << 3
-            << "amoi=0.0007 amui=0.0009" << "" << "amoi=0.0009";
-        QTest::newRow("reinforcement 3: typed and chosen") << false << 3
-            << "" << "aso=5 asuq=2.5 asui=1,5 amoi=20 m_pDIU=16"
-            << "diu=16 aso=0.0005 asuq=0.00025 asui=0.00015 amoi=0.002";
-        QTest::newRow("reinforcement 2: bar not in the table kept") << false << 2
-            << "dio=11 dioq=-99999" << "" << "dioi=-99999 diui=-99999";
-        QTest::newRow("reinforcement 4: emptied field is not set") << false << 4
-            << "aso=0.0003 amu=0.0011" << "aso=" << "dioi=-99999 diui=-99999 aso=-99999";
-        QTest::newRow("reinforcement 3: stored values exactly back") << false << 3
-            << "aso=0.000123456 amu=0.0011 dioi=28" << "" << "";
-        QTest::newRow("crack 1: the third layer is cleared") << true << 1
-            << "wkoi=0.0002 sigui=300000 wko=0.0003" << "" << "wkoi=-99999 sigui=-99999";
-        QTest::newRow("crack 3: nothing set, nothing typed") << true << 3 << "" << "" << "";
-        QTest::newRow("crack 3: a value not in the list kept") << true << 3 << "wko=0.00025 sigoi=255000" << "" << "";
-        QTest::newRow("crack 3: choosing 450.00") << true << 3 << "" << "m_pSIGU=#7" << "sigu=450000";
-        QTest::newRow("crack 3: choosing 0.40 and 160.00") << true << 3 << "" << "m_pWKUI=#2 m_pSIGOI=#0"
-            << "wkui=0.0004 sigoi=160000";
-        QTest::newRow("crack 1: typed") << true << 1 << "" << "m_pWKO=0.15 m_pSIGOQ=300" << "wko=0.00015 sigoq=300000";
-        QTest::newRow("crack 2: emptied") << true << 2 << "wku=0.0003" << "m_pWKU=" << "wku=-99999";
+        QTest::newRow("reinforcement 3: amoi opens with amui") << false << 3 << "amoi=0.0007 amui=0.0009" << ""
+            << "amoi=0.0009";
+        QTest::newRow("reinforcement 3: typed and chosen") << false << 3 << "" << "aso=5 asui=1,5 amoi=20 m_pDIU=16"
+            << "diu=16 aso=0.0005 asui=0.00015 amoi=0.002";
+        QTest::newRow("reinforcement 2: bar not in the table kept, stored values exact") << false << 2
+            << "dio=11 aso=0.000123456" << "" << "dioi=-99999 diui=-99999";
+        QTest::newRow("reinforcement 1: equal and one-sided pairs pass") << false << 1
+            << "aso=0.0005 amo=0.0005 asu=0.0009 amoq=0.0001" << "" << "dioi=-99999 diui=-99999";
+        QTest::newRow("reinforcement 4: emptied is not set") << false << 4 << "aso=0.0003" << "aso="
+            << "dioi=-99999 diui=-99999 aso=-99999";
+        QTest::newRow("crack 1: third layer cleared") << true << 1 << "wkoi=0.0002 sigui=300000 wko=0.0003" << ""
+            << "wkoi=-99999 sigui=-99999";
+        QTest::newRow("crack 3: value not in the list kept") << true << 3 << "wko=0.00025" << "" << "";
+        QTest::newRow("crack 3: choosing 450.00 and 0.40") << true << 3 << "" << "m_pSIGU=#7 m_pWKUI=#2"
+            << "wkui=0.0004 sigu=450000";
+        QTest::newRow("crack 2: typed and emptied") << true << 2 << "wku=0.0003" << "m_pWKU= m_pSIGOQ=300"
+            << "wku=-99999 sigoq=300000";
         // clang-format on
     }
 
@@ -291,7 +284,7 @@ private slots:
         dialog->show();
         enter(dialog.get(), input);
         BoxWatcher boxes;
-        okButton(dialog.get())->click();
+        button(dialog.get(), true)->click();
         QCOMPARE(boxes.seen, QStringList());
         QCOMPARE(dialog->result(), int(QDialog::Accepted));
         QCOMPARE(changes(before, record), QString()); // the dialog alone writes nothing
@@ -302,51 +295,20 @@ private slots:
         QCOMPARE(changes(before, record), written);
     }
 
-    // What the crack combos show for stored values, and that the lists stay as they are.
+    // Stored values show as they are; the lists stay as they are, also after Return.
     void crackShown()
     {
         tagZOB_QUAD_RIM record = makeRecord(1, QStringLiteral("wko=0.00025 sigu=450000"));
         dlgCrackControl dialog(&record, nullptr);
         QStringList shown;
-        for (const char* name : {"m_pWKO", "m_pWKOQ", "m_pSIGU", "m_pWKUQ"}) {
+        for (const char* name : {"m_pWKO", "m_pWKOQ", "m_pSIGU"}) {
             auto* combo = dialog.findChild<VKD_QT4_ComboBox*>(QLatin1String(name));
+            QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
             shown << QStringLiteral("%1 \"%2\" %3")
                          .arg(QLatin1String(name), combo->lineEdit()->text())
                          .arg(combo->count());
         }
-        QCOMPARE(shown, (QStringList{"m_pWKO \"0.25\" 3", "m_pWKOQ \"\" 3", "m_pSIGU \"450.0\" 8",
-                                     "m_pWKUQ \"\" 3"}));
-        // A typed value confirmed with Return is a value, not a new preset.
-        auto* combo = dialog.findChild<VKD_QT4_ComboBox*>(QStringLiteral("m_pWKO"));
-        type(combo->lineEdit(), QStringLiteral("0.35"));
-        QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
-        QCOMPARE(combo->count(), 3);
-    }
-
-    void checkMinMax_data()
-    {
-        QTest::addColumn<float>("minimum");
-        QTest::addColumn<float>("maximum");
-        QTest::addColumn<bool>("holds");
-        QTest::newRow("equal") << 5.0f << 5.0f << true;
-        QTest::newRow("minimum above maximum") << 5.0f << 4.0f << false;
-        QTest::newRow("one float step above") << std::nextafter(5.0f, 6.0f) << 5.0f << false;
-        QTest::newRow("no maximum") << 5.0f << -99999.0f << true;
-        QTest::newRow("no minimum") << -99999.0f << 4.0f << true;
-        QTest::newRow("zero maximum") << 5.0f << 0.0f << false;
-    }
-
-    void checkMinMax()
-    {
-        QFETCH(float, minimum);
-        QFETCH(float, maximum);
-        QFETCH(bool, holds);
-        tagZOB_QUAD_RIM record = makeRecord(1, QString());
-        dlgReinforcement dialog(0, &record, nullptr);
-        BoxWatcher boxes;
-        QCOMPARE(dialog.checkMinMax(minimum, maximum), holds);
-        QCOMPARE(boxes.seen,
-                 holds ? QStringList() : QStringList{"Warning: Min greater than Max is not allowed!"});
+        QCOMPARE(shown, (QStringList{"m_pWKO \"0.25\" 3", "m_pWKOQ \"\" 3", "m_pSIGU \"450.0\" 8"}));
     }
 
     // Two wrong pairs: each press gives one warning and leaves the dialog open, until both are
@@ -356,76 +318,44 @@ private slots:
         tagZOB_QUAD_RIM record = makeRecord(3, QString());
         dlgReinforcement dialog(0, &record, nullptr);
         dialog.show();
-        enter(&dialog, QStringLiteral("aso=5 amo=4 asui=3 amui=2"));
         QStringList log;
-        auto press = [&] {
+        for (const char* input : {"aso=5 amo=4 asui=3 amui=2", "amui=3", "amo=abc", "amo=5"}) {
+            enter(&dialog, QLatin1String(input));
             BoxWatcher boxes;
-            QTest::mouseClick(okButton(&dialog), Qt::LeftButton);
-            log << QStringLiteral("%1 warning(s), %2")
-                       .arg(boxes.seen.size())
+            QTest::mouseClick(button(&dialog, true), Qt::LeftButton);
+            log << QStringLiteral("%1 %2")
+                       .arg(boxes.seen.join(QLatin1Char('|')))
                        .arg(dialog.isVisible() ? "open" : "closed");
-        };
-        press();
-        enter(&dialog, QStringLiteral("amui=3"));
-        press();
-        enter(&dialog, QStringLiteral("amo=abc"));
-        press();
-        enter(&dialog, QStringLiteral("amo=5"));
-        press();
-        QCOMPARE(log, (QStringList{"1 warning(s), open", "1 warning(s), open", "0 warning(s), open",
-                                   "0 warning(s), closed"}));
+        }
+        const QString warning = QStringLiteral("Warning: Min greater than Max is not allowed!");
+        QCOMPARE(log, (QStringList{warning + " open", warning + " open", " open", " closed"}));
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
     }
 
-    void calculatorButtons_data()
-    {
-        QTest::addColumn<QString>("group");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<bool>("ok");
-        QTest::addColumn<QString>("changed");
-        // Bars 6, 8, 10, 12, 14, 16 in m_pDIO, m_pDIU, m_pDIOQ, m_pDIUQ, m_pDIOI, m_pDIUI; the
-        // calculator's 15 cm give pi * d² / 4 / 0.15 m per metre.
-        // clang-format off
-        QTest::newRow("calcO") << "upper" << 1 << 6 << true << "aso 1.88";
-        QTest::newRow("calcMaxO") << "upper" << 1 << 10 << true << "amo 1.88";
-        QTest::newRow("calcOQ") << "upper" << 2 << 6 << true << "asoq 5.24";
-        QTest::newRow("calcMaxOQ") << "upper" << 2 << 10 << true << "amoq 5.24";
-        QTest::newRow("calcOI") << "upper" << 3 << 6 << true << "asoi 10.26";
-        QTest::newRow("calcMaxOI") << "upper" << 3 << 10 << true << "amoi 10.26";
-        QTest::newRow("calcU") << "Lower" << 1 << 6 << true << "asu 3.35";
-        QTest::newRow("calcMaxU") << "Lower" << 1 << 10 << true << "amu 3.35";
-        QTest::newRow("calcUQ") << "Lower" << 2 << 6 << true << "asuq 7.54";
-        QTest::newRow("calcMaxUQ") << "Lower" << 2 << 10 << true << "amuq 7.54";
-        QTest::newRow("calcUI") << "Lower" << 3 << 6 << true << "asui 13.40";
-        QTest::newRow("calcMaxUI") << "Lower" << 3 << 10 << true << "amui 13.40";
-        QTest::newRow("calcO cancelled") << "upper" << 1 << 6 << false << "";
-        // clang-format on
-    }
-
-    // Each calculator button works with the bar of its row and writes into its own edit.
+    // Each calculator button works with the bar of its row and writes into its own edit; the
+    // calculator's 15 cm give pi * d² / 4 / 0.15 per metre. Cancel writes back what stood.
     void calculatorButtons()
     {
-        QFETCH(QString, group);
-        QFETCH(int, row);
-        QFETCH(int, column);
-        QFETCH(bool, ok);
-        QFETCH(QString, changed);
         tagZOB_QUAD_RIM record = makeRecord(3, QString());
         dlgReinforcement dialog(0, &record, nullptr);
-        enter(&dialog, QStringLiteral("m_pDIO=6 m_pDIU=8 m_pDIOQ=10 m_pDIUQ=12 m_pDIOI=14 m_pDIUI=16"));
-        auto* button = qobject_cast<QPushButton*>(gridWidget(&dialog, group, row, column));
-        QVERIFY(button);
-        QCOMPARE(button->objectName(), QStringLiteral("Calc"));
-        onModal(isCalculator, [ok](QWidget* calculator) {
-            (ok ? okButton(calculator) : cancelButton(calculator))->click();
-        });
-        button->click();
+        enter(&dialog,
+              QStringLiteral("m_pDIO=6 m_pDIU=8 m_pDIOQ=10 m_pDIUQ=12 m_pDIOI=14 m_pDIUI=16 amui=1"));
         QStringList filled;
+        for (const char* group : {"upper", "Lower"})
+            for (int row = 1; row <= 3; ++row)
+                for (int column : {6, 10}) {
+                    auto* calc =
+                        qobject_cast<QPushButton*>(gridWidget(&dialog, QLatin1String(group), row, column));
+                    QVERIFY(calc && calc->objectName() == QLatin1String("Calc"));
+                    const bool ok = column == 6 || row != 3;
+                    onModal(isCalculator, [ok](QWidget* c) { button(c, ok)->click(); });
+                    calc->click();
+                }
         for (VKD_H_LineEdit* edit : dialog.findChildren<VKD_H_LineEdit*>())
-            if (!edit->text().isEmpty())
-                filled << edit->objectName() + QLatin1Char(' ') + edit->text();
-        QCOMPARE(filled.join(QLatin1Char(',')), changed);
+            filled << edit->objectName() + QLatin1Char(' ') + edit->text();
+        QCOMPARE(filled.join(QLatin1Char(',')),
+                 QStringLiteral("aso 1.88,amo 1.88,asoq 5.24,amoq 5.24,asoi 10.26,amoi ,"
+                                "asu 3.35,amu 3.35,asuq 7.54,amuq 7.54,asui 13.40,amui 1.00"));
     }
 
     void pageButtons_data()
@@ -481,14 +411,11 @@ private slots:
                     [&](QWidget* dialog) {
                         enter(dialog, input);
                         if (calculator) {
-                            onModal(isCalculator, [](QWidget* c) {
-                                c->findChild<QDoubleSpinBox*>(QStringLiteral("spacing"))->setValue(15.0);
-                                okButton(c)->click();
-                            });
+                            onModal(isCalculator, [](QWidget* c) { button(c, true)->click(); });
                             qobject_cast<QPushButton*>(gridWidget(dialog, QStringLiteral("upper"), 1, 6))
                                 ->click();
                         }
-                        (ok ? okButton(dialog) : cancelButton(dialog))->click();
+                        button(dialog, ok)->click();
                     });
             cell->button()->click();
             cellAfter = table->item(0, col)->text();

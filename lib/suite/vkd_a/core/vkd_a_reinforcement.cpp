@@ -28,11 +28,3 @@ double vkd_a_reinforcementFromBars(float barValue, double barsPerMetre, int laye
         return 0.0;
     return vkd_a_barCrossSection(barValue) * barsPerMetre * layers;
 }
-
-double vkd_a_spacingForReinforcement(float barValue, double reinforcement, int layers)
-{
-    const double bar = vkd_a_barCrossSection(barValue);
-    if (bar <= 0.0 || !(reinforcement > 0.0) || layers < 1)
-        return 0.0;
-    return bar * layers / reinforcement;
-}

@@ -13,7 +13,3 @@ double vkd_a_barsPerMetre(double spacing);
 // Reinforcement, m²/m, of `layers` equal layers of bars of this value at this number of bars
 // per metre. 0 where the bar names no diameter or the count is not positive.
 double vkd_a_reinforcementFromBars(float barValue, double barsPerMetre, int layers);
-
-// The spacing, m, at which one layer of these bars gives this reinforcement; 0 where there is
-// none (no bar, no positive reinforcement).
-double vkd_a_spacingForReinforcement(float barValue, double reinforcement, int layers);
