@@ -37,3 +37,10 @@ void VKD_QT_InfoText::setText(const QString& text)
 {
     m_text->setText(text);
 }
+
+void VKD_QT_InfoText::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    // Layouts size a top-level window by minimum sizes, which know nothing of wrapped lines.
+    m_text->setMinimumHeight(m_text->heightForWidth(m_text->width()));
+}
