@@ -3,6 +3,9 @@
 #include "DesignParameterTable.h"
 #include "designrecord.h"
 #include "designstore.h"
+#include "dlgCrackControl.h"
+#include "dlgDistanceDirection.h"
+#include "dlgReinforcement.h"
 #include "projectentries.h"
 #include "rowtext.h"
 
@@ -373,15 +376,53 @@ void DesignParameter::slot_editCellWidget()
     editColumn = col;
 }
 
-// The editors behind the three summary buttons and the group editor of the first column are
-// dialogs of their own that this page does not have yet: until then these slots leave the row
-// as it is.
-void DesignParameter::slot_editButtonClicked() {}
+void DesignParameter::slot_editButtonClicked()
+{
+    if (!data->table)
+        return;
+    const int r = data->table->currentRow();
+    if (!isRowNumber(r))
+        return;
+    DesignParameterRow& row = rowAt(r);
+    dlgDistanceDirection dialog(&row.record, this);
+    if (dialog.exec() == QDialog::Accepted) {
+        dialog.writeToRecord(&row.record);
+        refreshRows(r);
+    }
+}
 
-void DesignParameter::slot_calcReinforcementButtonClicked() {}
+void DesignParameter::slot_calcReinforcementButtonClicked()
+{
+    if (!data->table)
+        return;
+    const int r = data->table->currentRow();
+    if (!isRowNumber(r))
+        return;
+    tagZOB_QUAD_RIM* record = &rowAt(r).record;
+    dlgReinforcement dialog(indexOf(data->doc), record, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    dialog.writeToRecord(record);
+    refreshRows(r);
+}
 
-void DesignParameter::slot_calcCrackButtonClicked() {}
+void DesignParameter::slot_calcCrackButtonClicked()
+{
+    if (!data->table)
+        return;
+    const int r = data->table->currentRow();
+    if (!isRowNumber(r))
+        return;
+    tagZOB_QUAD_RIM* record = &rowAt(r).record;
+    dlgCrackControl dialog(record, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    dialog.writeToRecord(record);
+    refreshRows(r);
+}
 
+// The group editor of the first column is a dialog of its own that this page does not have
+// yet: until then these slots leave the row as it is.
 void DesignParameter::slot_openGroups() {}
 
 void DesignParameter::slot_openSekGroups() {}
