@@ -209,6 +209,9 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(QWidget* parent,
     viewColumn->setObjectName(QStringLiteral("view column"));
     if (data->viewGroup)
         viewColumn->addWidget(data->viewGroup);
+    // Without a preview the view group keeps its height at the top.
+    if (!animator)
+        viewColumn->addStretch(1);
     boxGrid->addLayout(viewColumn, 0, 1);
     boxGrid->addWidget(data->attribs, 1, 0, 1, 2);
     pageGrid->setContentsMargins(0, 0, 0, 0);
