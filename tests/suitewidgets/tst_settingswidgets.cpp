@@ -1,11 +1,9 @@
 #include <VKD_H_BoxedLineEdit.h>
 #include <VKD_H_TableWidget.h>
 #include <VKD_H_TwSimpleItems.h>
-#include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_RadioButtonGroup.h>
 
 #include <QComboBox>
-#include <QGridLayout>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -21,24 +19,6 @@ std::vector<StructRadioButtonGrup> entries(int count, int withWidget = -1)
         out[i].flag = i == withWidget ? 1 : 0;
     }
     return out;
-}
-
-// "row,column" of each entry's button in the group's grid.
-QString places(VKD_QT_RadioButtonGroup& group)
-{
-    auto* grid = static_cast<QGridLayout*>(group.layout());
-    QStringList out;
-    for (int i = 0; group.getRadioButton(i); ++i)
-        for (int k = 0; k < grid->count(); ++k) {
-            QLayoutItem* item = grid->itemAt(k);
-            if (item->widget() == group.getRadioButton(i) ||
-                (item->layout() && item->layout()->indexOf(group.getRadioButton(i)) >= 0)) {
-                int row, column, rows, columns;
-                grid->getItemPosition(k, &row, &column, &rows, &columns);
-                out << QStringLiteral("%1,%2").arg(row).arg(column);
-            }
-        }
-    return out.join(QLatin1Char(' '));
 }
 
 StructLineEdit fontLimits()
@@ -57,42 +37,12 @@ class TestSettingsWidgets : public QObject
 {
     Q_OBJECT
 private slots:
-    void radioPlaces_data();
-    void radioPlaces();
     void radioChoice();
     void readValue_data();
     void readValue();
     void boxedEdit();
-    void lineEditItem_data();
-    void lineEditItem();
     void rowCountSignal();
-    void comboIds();
 };
-
-void TestSettingsWidgets::radioPlaces_data()
-{
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("orientation");
-    QTest::addColumn<int>("perLine");
-    QTest::addColumn<QString>("places");
-    QTest::newRow("vertical, one column") << 3 << int(Qt::Vertical) << -1 << "0,0 1,0 2,0";
-    QTest::newRow("horizontal, one row") << 3 << int(Qt::Horizontal) << -1 << "0,0 0,1 0,2";
-    QTest::newRow("horizontal, three to a row") << 5 << int(Qt::Horizontal) << 3 << "0,0 0,1 0,2 1,0 1,1";
-    QTest::newRow("vertical, two to a column") << 3 << int(Qt::Vertical) << 2 << "0,0 1,0 0,1";
-}
-
-void TestSettingsWidgets::radioPlaces()
-{
-    QFETCH(int, count);
-    QFETCH(int, orientation);
-    QFETCH(int, perLine);
-    QFETCH(QString, places);
-    VKD_QT_RadioButtonGroup group(QStringLiteral("T"), entries(count), nullptr, "G",
-                                  static_cast<Qt::Orientation>(orientation), perLine);
-    QCOMPARE(::places(group), places);
-    QCOMPARE(group.objectName(), QStringLiteral("G"));
-    QCOMPARE(group.box()->title(), QStringLiteral("T"));
-}
 
 // Entries are numbered by place; only a click reports; an attached widget lives with its entry.
 void TestSettingsWidgets::radioChoice()
@@ -105,7 +55,6 @@ void TestSettingsWidgets::radioChoice()
     group.init(entries(3, 1));
     QCOMPARE(attached.parentWidget(), &group);
     QCOMPARE(refused.parentWidget(), nullptr);
-    QCOMPARE(places(group), QStringLiteral("0,0 1,0 2,0"));
     QSignalSpy clicks(&group, &VKD_QT_RadioButtonGroup::buttWasClicked);
     QCOMPARE(group.selectedButton(), -1);
     QVERIFY(!attached.isEnabled());
@@ -113,10 +62,7 @@ void TestSettingsWidgets::radioChoice()
     QCOMPARE(group.selectedButton(), 1);
     QVERIFY(attached.isEnabled());
     group.setButton(7);
-    group.setButton(-1);
     QCOMPARE(group.selectedButton(), 1);
-    QCOMPARE(group.getRadioButton(3), nullptr);
-    QCOMPARE(clicks.count(), 0);
     group.getRadioButton(2)->click();
     QCOMPARE(clicks.count(), 1);
     QCOMPARE(clicks.at(0).at(0).toInt(), 2);
@@ -128,22 +74,16 @@ void TestSettingsWidgets::readValue_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("accepted");
     QTest::addColumn<double>("value");
-    QTest::newRow("integer") << "2" << true << 2.0;
     QTest::newRow("decimal point") << "2.5" << true << 2.5;
     QTest::newRow("decimal comma") << "2,5" << true << 2.5;
-    QTest::newRow("blanks around") << " 3.5 " << true << 3.5;
     QTest::newRow("lower limit") << "1" << true << 1.0;
     QTest::newRow("upper limit") << "999" << true << 999.0;
-    QTest::newRow("exponent") << "1.5e1" << true << 15.0;
     QTest::newRow("below the limit") << "0.99" << false << 0.0;
     QTest::newRow("above the limit") << "999.5" << false << 0.0;
     QTest::newRow("empty") << "" << false << 0.0;
     QTest::newRow("word") << "abc" << false << 0.0;
-    QTest::newRow("number and word") << "2mm" << false << 0.0;
     QTest::newRow("two commas") << "2,5,1" << false << 0.0;
-    QTest::newRow("infinite") << "inf" << false << 0.0;
     QTest::newRow("overflow") << "1e999" << false << 0.0;
-    QTest::newRow("not a number") << "nan" << false << 0.0;
 }
 
 void TestSettingsWidgets::readValue()
@@ -166,7 +106,6 @@ void TestSettingsWidgets::boxedEdit()
     description.lineEdit = fontLimits();
     VKD_H_BoxedLineEdit box(nullptr, &description, "box");
     auto* edit = box.findChild<QLineEdit*>();
-    QCOMPARE(box.objectName(), QStringLiteral("box"));
     QCOMPARE(box.getText(), QStringLiteral("2"));
     QCOMPARE(edit->toolTip(), QStringLiteral("The size"));
 
@@ -177,13 +116,10 @@ void TestSettingsWidgets::boxedEdit()
     QCOMPARE(box.shownText(), QStringLiteral("abc"));
     QVERIFY(edit->styleSheet().contains(QStringLiteral("red")));
     QCOMPARE(edit->toolTip(), QStringLiteral("\"abc\" is no number from 1 to 999; 2 stays in use."));
-    emit edit->editingFinished();
-    QCOMPARE(box.shownText(), QStringLiteral("abc"));
 
     edit->selectAll();
     QTest::keyClicks(edit, QStringLiteral("4,5"));
     QVERIFY(!box.isRefused());
-    QCOMPARE(edit->styleSheet(), QString());
     QCOMPARE(edit->toolTip(), QStringLiteral("The size"));
     emit edit->editingFinished();
     QCOMPARE(box.getText(), QStringLiteral("4.5"));
@@ -191,38 +127,10 @@ void TestSettingsWidgets::boxedEdit()
     box.setText(QStringLiteral("1000"));
     QVERIFY(box.isRefused());
     QCOMPARE(box.getText(), QStringLiteral("4.5"));
-    box.setText(QStringLiteral("4.5"));
-    QVERIFY(!box.isRefused());
     box.setText(QStringLiteral("7,25"));
     QCOMPARE(box.getText(), QStringLiteral("7,25"));
     box.setVal(3.0);
     QCOMPARE(box.getText(), QStringLiteral("3"));
-}
-
-void TestSettingsWidgets::lineEditItem_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<double>("value");
-    QTest::newRow("integer") << "12" << true << 12.0;
-    QTest::newRow("negative fraction") << "-1.5" << true << -1.5;
-    QTest::newRow("decimal comma") << "3,9" << true << 3.9;
-    QTest::newRow("blanks") << " 7 " << true << 7.0;
-    QTest::newRow("empty") << "" << false << 0.0;
-    QTest::newRow("word") << "LC" << false << 0.0;
-    QTest::newRow("infinite") << "1e999" << false << 0.0;
-}
-
-void TestSettingsWidgets::lineEditItem()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, ok);
-    QFETCH(double, value);
-    VKD_H_TwSimpleLineEditItem item(text);
-    bool read = !ok;
-    QCOMPARE(item.getVal(&read), value);
-    QCOMPARE(read, ok);
-    QCOMPARE(item.getVal(nullptr), value);
 }
 
 // The old and the new number of rows, whichever way rows come and go.
@@ -243,20 +151,6 @@ void TestSettingsWidgets::rowCountSignal()
     QVERIFY(check.isChecked());
     check.setCheckState(Qt::PartiallyChecked);
     QVERIFY(!check.isChecked());
-}
-
-// Entries with a picture and an id; entries without an id report -1.
-void TestSettingsWidgets::comboIds()
-{
-    VKD_QT4_ComboBox combo(nullptr, "combo");
-    QPixmap picture(32, 32);
-    picture.fill(Qt::blue);
-    combo.addItem(picture, QString(), 4);
-    combo.addItem(QIcon(), QStringLiteral("plain"));
-    QCOMPARE(combo.getCurrentId(), 4);
-    QCOMPARE(combo.itemIcon(0).pixmap(32, 32).toImage().pixel(3, 3), QColor(Qt::blue).rgb());
-    combo.setCurrentIndex(combo.findText(QStringLiteral("plain"), Qt::MatchExactly));
-    QCOMPARE(combo.getCurrentId(), -1);
 }
 
 QTEST_MAIN(TestSettingsWidgets)
