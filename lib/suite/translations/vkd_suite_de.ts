@@ -29,7 +29,14 @@
 </context>
 <context>
     <name>VKD_H_BoxedLineEdit</name>
-    <message><source>&quot;%1&quot; is no number from %2 to %3; %4 stays in use.</source><translation>„%1“ ist keine Zahl von %2 bis %3; %4 bleibt gültig.</translation></message>
-    <message><source>&quot;%1&quot; is no number; %2 stays in use.</source><translation>„%1“ ist keine Zahl; %2 bleibt gültig.</translation></message>
+    <message><source>%1 stays in use.</source><translation>%1 bleibt gültig.</translation></message>
+</context>
+<context>
+    <name>VKD_H_LineEdit</name>
+    <message><source>&quot;%1&quot; is not a number.</source><translation>„%1“ ist keine Zahl.</translation></message>
+    <message><source>&quot;%1&quot; is not a whole number.</source><translation>„%1“ ist keine ganze Zahl.</translation></message>
+    <message><source>A value is required.</source><translation>Ein Wert ist erforderlich.</translation></message>
+    <message><source>The value must lie between %1 and %2.</source><translation>Der Wert muss zwischen %1 und %2 liegen.</translation></message>
+    <message><source>The stored value &quot;%1&quot; is not a number. Enter a value or empty the field.</source><translation>Der gespeicherte Wert „%1“ ist keine Zahl. Geben Sie einen Wert ein oder leeren Sie das Feld.</translation></message>
 </context>
 </TS>

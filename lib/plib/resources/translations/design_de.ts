@@ -85,4 +85,91 @@ Möglicher Datenverlust!</translation>
         <translation>Löschen</translation>
     </message>
 </context>
+<context>
+    <name>dlgDistanceDirection</name>
+    <message>
+        <source>Direction and Distance</source>
+        <translation>Richtung und Abstand</translation>
+    </message>
+    <message>
+        <source>Rotation angle of reinforcement towards local x-axis</source>
+        <translation>Drehwinkel der Bewehrung gegen die lokale x-Achse</translation>
+    </message>
+    <message>
+        <source>Axial Distance</source>
+        <translation>Achsabstand</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Lower</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Principal Reinforcement</source>
+        <translation>Hauptbewehrung</translation>
+    </message>
+    <message>
+        <source>Cross Reinforcement</source>
+        <translation>Querbewehrung</translation>
+    </message>
+    <message>
+        <source>Third Layer</source>
+        <translation>Dritte Lage</translation>
+    </message>
+    <message>
+        <source>Third layer reinforcement (DDH)</source>
+        <translation>Bewehrung der dritten Lage (DDH)</translation>
+    </message>
+    <message>
+        <source>The local x-axis of the elements is the default direction of the principal reinforcement.</source>
+        <translation>Die lokale x-Achse der Elemente ist die Standardrichtung der Hauptbewehrung.</translation>
+    </message>
+    <message>
+        <source>Direction / Distance</source>
+        <translation>Richtung / Abstand</translation>
+    </message>
+    <message>
+        <source>Direction (-180 ... 180)</source>
+        <translation>Richtung (-180 ... 180)</translation>
+    </message>
+    <message>
+        <source>Distance of Principal Reinforcement (H)</source>
+        <translation>Abstand der Hauptbewehrung (H)</translation>
+    </message>
+    <message>
+        <source>Distance of Cross Reinforcement (DH)</source>
+        <translation>Abstand der Querbewehrung (DH)</translation>
+    </message>
+    <message>
+        <source>Midpoint</source>
+        <translation>Mittelpunkt</translation>
+    </message>
+    <message>
+        <source>Reference point for circular reinforcement</source>
+        <translation>Bezugspunkt der kreisförmigen Bewehrung</translation>
+    </message>
+    <message>
+        <source>X coordinate</source>
+        <translation>X-Koordinate</translation>
+    </message>
+    <message>
+        <source>Y coordinate</source>
+        <translation>Y-Koordinate</translation>
+    </message>
+    <message>
+        <source>Z coordinate</source>
+        <translation>Z-Koordinate</translation>
+    </message>
+</context>
 </TS>

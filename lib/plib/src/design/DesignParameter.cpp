@@ -3,6 +3,7 @@
 #include "DesignParameterTable.h"
 #include "designrecord.h"
 #include "designstore.h"
+#include "dlgDistanceDirection.h"
 #include "projectentries.h"
 #include "rowtext.h"
 
@@ -376,7 +377,20 @@ void DesignParameter::slot_editCellWidget()
 // The editors behind the three summary buttons and the group editor of the first column are
 // dialogs of their own that this page does not have yet: until then these slots leave the row
 // as it is.
-void DesignParameter::slot_editButtonClicked() {}
+void DesignParameter::slot_editButtonClicked()
+{
+    if (!data->table)
+        return;
+    const int r = data->table->currentRow();
+    if (!isRowNumber(r))
+        return;
+    DesignParameterRow& row = rowAt(r);
+    dlgDistanceDirection dialog(&row.record, this);
+    if (dialog.exec() == QDialog::Accepted) {
+        dialog.writeToRecord(&row.record);
+        refreshRows(r);
+    }
+}
 
 void DesignParameter::slot_calcReinforcementButtonClicked() {}
 
