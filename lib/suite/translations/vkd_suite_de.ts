@@ -29,8 +29,7 @@
 </context>
 <context>
     <name>VKD_H_BoxedLineEdit</name>
-    <message><source>&quot;%1&quot; is no number from %2 to %3; %4 stays in use.</source><translation>„%1“ ist keine Zahl von %2 bis %3; %4 bleibt gültig.</translation></message>
-    <message><source>&quot;%1&quot; is no number; %2 stays in use.</source><translation>„%1“ ist keine Zahl; %2 bleibt gültig.</translation></message>
+    <message><source>%1 stays in use.</source><translation>%1 bleibt gültig.</translation></message>
 </context>
 <context>
     <name>VKD_H_LineEdit</name>

@@ -18,6 +18,7 @@
 #include <VKD_QT_RadioButtonGroup.h>
 #include <VKD_QT_TabDialog.h>
 #include <vkd_dbo.h>
+#include <vkd_h_fieldcheck.h>
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -114,14 +115,13 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(QWidget* parent,
     fontRecord.framed = 0;
     fontRecord.label = tr("Font Size (mm) : ");
     fontRecord.toolTip = tr("The size of the font");
-    fontRecord.lineEdit.kind = 2;
-    fontRecord.lineEdit.decimals = 0;
-    fontRecord.lineEdit.dimension = -1;
-    fontRecord.lineEdit.unitIndex = -1;
+    fontRecord.lineEdit = vkd_h_defaultLineEdit(-1);
+    fontRecord.lineEdit.kind = VKD_H_LE_KIND_REAL;
     fontRecord.lineEdit.value = kDefaultFontSize;
     fontRecord.lineEdit.minimum = 1.0;
     fontRecord.lineEdit.maximum = 999.0;
-    fontRecord.lineEdit.thirdLimit = 2.0;
+    // A font size is always given: an empty field is refused.
+    fontRecord.lineEdit.notSetLimit = VKD_H_NOT_SET;
     fontRecord.lineEdit.flags = 0x100000;
     fontRecord.lineEdit.decimalSeparators = QStringLiteral(",");
     auto* pageGrid = new VKD_QT_GridLayout(this, "page grid");
@@ -209,6 +209,9 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(QWidget* parent,
     viewColumn->setObjectName(QStringLiteral("view column"));
     if (data->viewGroup)
         viewColumn->addWidget(data->viewGroup);
+    // Without a preview the view group keeps its height at the top.
+    if (!animator)
+        viewColumn->addStretch(1);
     boxGrid->addLayout(viewColumn, 0, 1);
     boxGrid->addWidget(data->attribs, 1, 0, 1, 2);
     pageGrid->setContentsMargins(0, 0, 0, 0);

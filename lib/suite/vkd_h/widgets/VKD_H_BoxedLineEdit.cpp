@@ -1,11 +1,10 @@
 #include "VKD_H_BoxedLineEdit.h"
 
+#include <vkd_h_fieldcheck.h>
+
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
-
-#include <cmath>
 
 VKD_H_BoxedLineEdit::VKD_H_BoxedLineEdit(QWidget* parent, StructBoxedEdit* description, const char* name)
     : QWidget(parent), m_description(description ? description->lineEdit : StructLineEdit()),
@@ -34,22 +33,6 @@ VKD_H_BoxedLineEdit::VKD_H_BoxedLineEdit(QWidget* parent, StructBoxedEdit* descr
     setVal(m_description.value);
 }
 
-bool VKD_H_BoxedLineEdit::readValue(const QString& text, const StructLineEdit& description, double* value)
-{
-    QString plain = text.trimmed();
-    for (const QChar separator : description.decimalSeparators)
-        plain.replace(separator, QLatin1Char('.'));
-    bool ok = false;
-    const double v = QLocale::c().toDouble(plain, &ok);
-    if (!ok || !std::isfinite(v))
-        return false;
-    if (description.minimum <= description.maximum && (v < description.minimum || v > description.maximum))
-        return false;
-    if (value)
-        *value = v;
-    return true;
-}
-
 QString VKD_H_BoxedLineEdit::getText() const
 {
     return m_accepted;
@@ -74,16 +57,12 @@ void VKD_H_BoxedLineEdit::setVal(double value)
 
 void VKD_H_BoxedLineEdit::check(const QString& text)
 {
-    double value = 0.0;
-    m_refused = !readValue(text, m_description, &value);
+    const VKD_H_FieldCheck result = vkd_h_checkFieldText(m_description, text);
+    m_refused = !result.accepted();
     if (m_refused) {
         m_edit->setStyleSheet(QStringLiteral("QLineEdit { border: 2px solid red; }"));
-        const QString why = m_description.minimum <= m_description.maximum
-                                ? tr("\"%1\" is no number from %2 to %3; %4 stays in use.")
-                                      .arg(text, QString::number(m_description.minimum),
-                                           QString::number(m_description.maximum), m_accepted)
-                                : tr("\"%1\" is no number; %2 stays in use.").arg(text, m_accepted);
-        m_edit->setToolTip(why);
+        m_edit->setToolTip(vkd_h_fieldProblemText(m_description, result.problem, text) + QLatin1Char(' ') +
+                           tr("%1 stays in use.").arg(m_accepted));
         return;
     }
     m_edit->setStyleSheet(QString());
@@ -91,7 +70,7 @@ void VKD_H_BoxedLineEdit::check(const QString& text)
     const bool changed = text != m_accepted;
     m_accepted = text;
     if (changed)
-        emit valueChanged(value);
+        emit valueChanged(result.value);
 }
 
 // A decimal comma turns into a point once the user leaves the field, so that readers of the
@@ -101,6 +80,7 @@ void VKD_H_BoxedLineEdit::normalize()
     if (m_refused)
         return;
     QString plain = m_edit->text().trimmed();
+    plain.replace(QLatin1Char(','), QLatin1Char('.'));
     for (const QChar separator : m_description.decimalSeparators)
         plain.replace(separator, QLatin1Char('.'));
     if (plain != m_edit->text())

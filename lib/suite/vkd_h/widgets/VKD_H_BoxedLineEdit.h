@@ -20,12 +20,12 @@ struct StructBoxedEdit
     QString toolTip;
     QString whatsThis;
     QString name;
-    StructLineEdit lineEdit;
+    StructLineEdit lineEdit{};
 };
 
-// A labelled field for one number with limits. Text that is no number or lies outside the limits
-// is refused visibly (red frame, a tooltip that says why) and the field goes on answering with
-// the last value it accepted. A decimal comma reads as a point.
+// A labelled field for one number with limits, read as the suite's line edits read (a decimal
+// comma as a point). Text that is no number or lies outside the limits is refused visibly (red
+// frame, a tooltip that says why) and the field goes on answering with the last text it accepted.
 class VKD_H_BoxedLineEdit : public QWidget
 {
     Q_OBJECT
@@ -40,10 +40,6 @@ public:
     // The text as it stands in the field, accepted or not.
     QString shownText() const;
     bool isRefused() const { return m_refused; }
-
-    // The value of a text by the description's rules; false for text that is no finite number
-    // or lies outside the limits.
-    static bool readValue(const QString& text, const StructLineEdit& description, double* value);
 
 signals:
     // A new value was accepted.
