@@ -1,5 +1,6 @@
-// Draws the figures of the library's two resource blocks. Run it by hand after a change of a
-// figure and commit the PNGs it writes:  drawfigures <folder>
+// Draws the figures of the library's two resource blocks, and with a second folder the
+// numbered icons of the widget layer. Run it by hand after a change of a figure and commit the
+// PNGs it writes:  drawfigures <folder> [<icon folder>]
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
@@ -287,14 +288,82 @@ struct Figure
     std::function<void(QPainter&, QSize)> draw;
 };
 
+// Icons of the widget layer: <number>.png at 32 pixels and <number>@2x.png at 64, each drawn
+// at its own size so that both are sharp.
+const QColor kGroupFill(0x3a, 0x7b, 0xc8);
+const QColor kSecondaryFill(0xe0, 0x8a, 0x1e);
+
+// A mesh of 3 x 3 quads on a 32-unit square with the L of five picked ones filled: a group.
+void drawGroupIcon(QPainter& p)
+{
+    const double x0 = 3, y0 = 3, step = 26.0 / 3;
+    p.setPen(Qt::NoPen);
+    p.setBrush(kGroupFill);
+    const int picked[][2] = {{0, 0}, {0, 1}, {0, 2}, {1, 2}, {2, 2}};
+    for (const auto& q : picked)
+        p.drawRect(QRectF(x0 + q[0] * step, y0 + q[1] * step, step, step));
+    p.setPen(QPen(kInk, 1.6));
+    p.setBrush(Qt::NoBrush);
+    for (int i = 0; i <= 3; ++i) {
+        p.drawLine(QPointF(x0 + i * step, y0), QPointF(x0 + i * step, y0 + 26));
+        p.drawLine(QPointF(x0, y0 + i * step), QPointF(x0 + 26, y0 + i * step));
+    }
+}
+
+// A label tag with a hole and two lines of writing: a group known by its name.
+void drawSecondaryGroupIcon(QPainter& p)
+{
+    QPainterPath tag;
+    tag.moveTo(3, 16);
+    tag.lineTo(11, 6);
+    tag.lineTo(29, 6);
+    tag.lineTo(29, 26);
+    tag.lineTo(11, 26);
+    tag.closeSubpath();
+    p.setPen(QPen(kInk, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setBrush(kSecondaryFill);
+    p.drawPath(tag);
+    p.setBrush(Qt::white);
+    p.drawEllipse(QPointF(10, 16), 2.2, 2.2);
+    p.setPen(QPen(Qt::white, 2.4, Qt::SolidLine, Qt::RoundCap));
+    p.drawLine(QPointF(16, 13), QPointF(26, 13));
+    p.drawLine(QPointF(16, 19), QPointF(23, 19));
+}
+
+bool drawIcons(const QDir& out)
+{
+    const struct
+    {
+        int number;
+        void (*draw)(QPainter&);
+    } icons[] = {{2125, drawGroupIcon}, {2126, drawSecondaryGroupIcon}};
+    for (const auto& icon : icons) {
+        for (int scale = 1; scale <= 2; ++scale) {
+            QImage image(32 * scale, 32 * scale, QImage::Format_ARGB32);
+            image.fill(Qt::transparent);
+            QPainter p(&image);
+            p.setRenderHint(QPainter::Antialiasing);
+            p.scale(scale, scale);
+            icon.draw(p);
+            p.end();
+            const QString name = QString::number(icon.number) + (scale == 2 ? QStringLiteral("@2x.png") : QStringLiteral(".png"));
+            if (!image.save(out.filePath(name))) {
+                std::fprintf(stderr, "cannot write %s\n", qPrintable(name));
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: drawfigures <folder>\n");
+    if (argc != 2 && argc != 3) {
+        std::fprintf(stderr, "usage: drawfigures <folder> [<icon folder>]\n");
         return 2;
     }
     const QDir out(QString::fromLocal8Bit(argv[1]));
@@ -345,5 +414,5 @@ int main(int argc, char** argv)
             return 1;
         }
     }
-    return 0;
+    return argc == 3 && !drawIcons(QDir(QString::fromLocal8Bit(argv[2]))) ? 1 : 0;
 }
