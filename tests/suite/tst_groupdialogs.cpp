@@ -9,6 +9,8 @@
 #include <vkd_h_grouppick.h>
 #include <vkd_qt_icon.h>
 
+#include "groupdialogdriver.h"
+
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -43,51 +45,6 @@ struct Project
     QTemporaryDir dir;
     std::unique_ptr<VKD_H_ZOBDoc> doc;
 };
-
-// Each line of the list: check mark, group, title and note.
-QString listText(QWidget* dialog)
-{
-    auto* list = dialog->findChild<QTreeWidget*>(QStringLiteral("groupList"));
-    QStringList lines;
-    for (int i = 0; list && i < list->topLevelItemCount(); ++i) {
-        const QTreeWidgetItem* item = list->topLevelItem(i);
-        lines << QStringLiteral("%1 %2|%3|%4")
-                     .arg(item->checkState(0) == Qt::Checked ? QLatin1Char('x') : QLatin1Char('-'))
-                     .arg(item->text(0), item->text(1), item->text(2));
-    }
-    return lines.join(QLatin1Char('\n'));
-}
-
-// Runs the user's steps, space separated: "filter:<text>", or the object name of a button to
-// click.
-void act(QWidget* dialog, const QString& steps)
-{
-    for (const QString& step : steps.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        if (step.startsWith(QLatin1String("filter:"))) {
-            auto* filter = dialog->findChild<QLineEdit*>(QStringLiteral("groupFilter"));
-            filter->clear();
-            QTest::keyClicks(filter, step.mid(7));
-        } else if (auto* button = dialog->findChild<QPushButton*>(step)) {
-            QTest::mouseClick(button, Qt::LeftButton);
-        } else {
-            QFAIL(qPrintable(QStringLiteral("no step ") + step));
-        }
-    }
-}
-
-// Answers the next modal dialog as a person would: notes what it shows, then clicks.
-void answerModal(QString* seen, const QString& steps)
-{
-    QTimer::singleShot(0, [seen, steps] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (!dialog) {
-            answerModal(seen, steps);
-            return;
-        }
-        *seen = listText(dialog);
-        act(dialog, steps);
-    });
-}
 
 } // namespace
 
@@ -149,7 +106,8 @@ void TestGroupDialogs::primaryDialog_data()
     const int sx = packed("SX");
     QTest::newRow("OK keeps the stale and the secondary group") << "ok" << 1 << GroupList{3, 99, sx};
     QTest::newRow("select none") << "selectNone ok" << 1 << GroupList{};
-    QTest::newRow("select all the filter shows") << "filter:bay selectAll ok" << 1 << GroupList{1, 2, 3, 4, 99, sx};
+    QTest::newRow("select all the filter shows")
+        << "filter:bay selectAll ok" << 1 << GroupList{1, 2, 3, 4, 99, sx};
     QTest::newRow("filter by number, then none") << "filter:99 selectNone ok" << 1 << GroupList{3, sx};
     QTest::newRow("cancel") << "cancel" << 0 << GroupList{3, 99, sx};
     QTest::newRow("pick in model") << "pickInModel" << 6 << GroupList{3, 99, sx};

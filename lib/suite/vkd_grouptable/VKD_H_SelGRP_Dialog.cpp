@@ -7,8 +7,8 @@
 #include <vkd_h_grouppick.h>
 
 #include <QHBoxLayout>
-#include <algorithm>
 #include <QPoint>
+#include <algorithm>
 
 namespace {
 
@@ -20,7 +20,8 @@ std::vector<VKD_H_GroupListDialog::Entry> modelGroups(const VKD_H_ZOBDoc* doc)
     for (const vkd::dbo::GroupRecord& g :
          vkd::dbo::readAll<vkd::dbo::GroupRecord>(doc->index(), vkd::dbo::KeyGroups))
         entries.push_back({g.number, vkd::dbo::groupTitle(g)});
-    std::stable_sort(entries.begin(), entries.end(), [](const auto& a, const auto& b) { return a.number < b.number; });
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](const auto& a, const auto& b) { return a.number < b.number; });
     return entries;
 }
 

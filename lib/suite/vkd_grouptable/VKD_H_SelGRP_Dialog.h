@@ -13,7 +13,10 @@ class VKD_H_SelGRP_Dialog : public VKD_H_GroupListDialog
 {
     Q_OBJECT
 public:
-    enum Result { PickInModel = 6 };
+    enum Result
+    {
+        PickInModel = 6
+    };
 
     // callerFlag and recordKey name the caller's state and the key of its per-group records;
     // the list is the same for every caller, so the dialog keeps neither. position, if given,

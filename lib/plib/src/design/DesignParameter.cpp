@@ -1,9 +1,9 @@
 #include "DesignParameter.h"
 
 #include "DesignParameterTable.h"
-#include "dlgSelection.h"
 #include "designrecord.h"
 #include "designstore.h"
+#include "dlgSelection.h"
 #include "projectentries.h"
 #include "rowtext.h"
 
@@ -371,7 +371,8 @@ void DesignParameter::slot_editCellWidget()
         connect(editor, &dlgSelection::signal_groupButtonClicked, this, &DesignParameter::slot_openGroups);
         connect(editor, &dlgSelection::signal_selectionComboChanged, this,
                 &DesignParameter::slot_selectionComboChanged);
-        connect(editor, &dlgSelection::signal_sekGroupButtonClicked, this, &DesignParameter::slot_openSekGroups);
+        connect(editor, &dlgSelection::signal_sekGroupButtonClicked, this,
+                &DesignParameter::slot_openSekGroups);
         if (QTableWidgetItem* item = table->item(row, col)) {
             VKD_QT_SignalBlocker blocker(table);
             item->setText(QString());
@@ -433,7 +434,8 @@ void DesignParameter::takeGroups(int row, const std::vector<int>& groups, int ed
 {
     DesignParameterTable* table = data->table;
     data->rows[size_t(row)].groups = groups;
-    auto* editor = qobject_cast<dlgSelection*>(table->cellWidget(editorRow, table->getColumnNumber(ColumnSelection)));
+    auto* editor =
+        qobject_cast<dlgSelection*>(table->cellWidget(editorRow, table->getColumnNumber(ColumnSelection)));
     if (editor && isRowNumber(editorRow)) {
         const bool remainingInUse = hasRemainingRow();
         editor->fillCombo(rowAt(editorRow), remainingInUse);

@@ -57,6 +57,7 @@ private slots:
 
 private:
     friend class TestDesignPage;
+    friend class TestGroupSelection;
 
     void buildTable();
     bool isRowNumber(int number) const;

@@ -121,7 +121,8 @@ QString groupListText(const std::vector<int32_t>& groups)
         return tr("Remaining Groups");
     QStringList parts;
     for (int32_t v : groups)
-        parts << (v < 1000000 ? QStringLiteral("%1").arg(v, 0, 10, QChar(' ')) : vkd::dbo::secondaryGroupName(v));
+        parts << (v < 1000000 ? QStringLiteral("%1").arg(v, 0, 10, QChar(' '))
+                              : vkd::dbo::secondaryGroupName(v));
     return parts.join(QLatin1Char(';'));
 }
 

@@ -62,8 +62,8 @@ VKD_H_GroupListDialog::VKD_H_GroupListDialog(const std::vector<Entry>& groups, b
     std::set<int> listed;
     for (const Entry& g : groups) {
         const bool isUsed = usedSet.count(g.number) > 0;
-        addItem(g.number, g.title, isUsed ? tr("used in another row") : QString(), checkedSet.count(g.number) > 0,
-                isUsed, false);
+        addItem(g.number, g.title, isUsed ? tr("used in another row") : QString(),
+                checkedSet.count(g.number) > 0, isUsed, false);
         listed.insert(g.number);
     }
     for (int number : checkedSet) {
@@ -120,7 +120,8 @@ void VKD_H_GroupListDialog::addItem(int number, const QString& title, const QStr
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     item->setCheckState(ColumnGroup, checked ? Qt::Checked : Qt::Unchecked);
     if (missing || used) {
-        const QColor colour = missing ? QColor(0xb0, 0x20, 0x20) : palette().color(QPalette::Disabled, QPalette::Text);
+        const QColor colour =
+            missing ? QColor(0xb0, 0x20, 0x20) : palette().color(QPalette::Disabled, QPalette::Text);
         for (int column = ColumnGroup; column <= ColumnNote; ++column)
             item->setForeground(column, colour);
     }
@@ -131,7 +132,8 @@ void VKD_H_GroupListDialog::applyFilter(const QString& text)
     const QString wanted = text.trimmed();
     for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
         QTreeWidgetItem* item = m_list->topLevelItem(i);
-        const bool shown = wanted.isEmpty() || item->text(ColumnGroup).contains(wanted, Qt::CaseInsensitive) ||
+        const bool shown = wanted.isEmpty() ||
+                           item->text(ColumnGroup).contains(wanted, Qt::CaseInsensitive) ||
                            item->text(ColumnTitle).contains(wanted, Qt::CaseInsensitive);
         item->setHidden(!shown);
     }

@@ -41,7 +41,8 @@ protected:
     VKD_QT_Ok* footer() const { return m_footer; }
 
 private:
-    void addItem(int number, const QString& title, const QString& note, bool checked, bool used, bool missing);
+    void addItem(int number, const QString& title, const QString& note, bool checked, bool used,
+                 bool missing);
     void applyFilter(const QString& text);
     void checkShown(bool checked);
     void updateCount();

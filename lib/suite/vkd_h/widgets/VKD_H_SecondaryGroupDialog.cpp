@@ -13,8 +13,8 @@ std::vector<VKD_H_GroupListDialog::Entry> secondaryGroups(const VKD_H_ZOBDoc* do
     std::vector<VKD_H_GroupListDialog::Entry> entries;
     if (!doc)
         return entries;
-    for (const vkd::dbo::GroupRecord& g : vkd::dbo::readAll<vkd::dbo::GroupRecord>(doc->index(),
-                                                                                   vkd::dbo::KeySecondaryGroups))
+    for (const vkd::dbo::GroupRecord& g :
+         vkd::dbo::readAll<vkd::dbo::GroupRecord>(doc->index(), vkd::dbo::KeySecondaryGroups))
         entries.push_back({g.number, vkd::dbo::groupTitle(g)});
     std::stable_sort(entries.begin(), entries.end(), [](const auto& a, const auto& b) {
         return VKD_H_GroupListDialog::groupLabel(a.number) < VKD_H_GroupListDialog::groupLabel(b.number);

@@ -10,6 +10,6 @@ class VKD_H_SecondaryGroupDialog : public VKD_H_GroupListDialog
 {
     Q_OBJECT
 public:
-    VKD_H_SecondaryGroupDialog(VKD_H_ZOBDoc* doc, const std::vector<int>& checked, const std::vector<int>& used,
-                               QWidget* parent);
+    VKD_H_SecondaryGroupDialog(VKD_H_ZOBDoc* doc, const std::vector<int>& checked,
+                               const std::vector<int>& used, QWidget* parent);
 };
