@@ -20,10 +20,9 @@ void writeDemoModel(int index, DemoSecondaryGroups secondary)
     for (int j = 0; j < ny; ++j)
         for (int i = 0; i < nx; ++i) {
             const int group = 1 + (i >= nx / 2 ? 1 : 0) + (j >= ny / 2 ? 2 : 0);
-            quads.push_back(
-                {int(quads.size()) + 1,
-                 group,
-                 {nodeNumber(i, j), nodeNumber(i + 1, j), nodeNumber(i + 1, j + 1), nodeNumber(i, j + 1)}});
+            quads.push_back({int(quads.size()) + 1,
+                             group,
+                             {nodeNumber(i, j), nodeNumber(i + 1, j), nodeNumber(i + 1, j + 1), nodeNumber(i, j + 1)}});
         }
     std::vector<ElementRecord> beams;
     for (int i = 0; i < nx; ++i) {
@@ -42,10 +41,9 @@ void writeDemoModel(int index, DemoSecondaryGroups secondary)
     writeAll(index, KeySprings, springs);
     writeAll(index, KeyBoundaries, std::vector<ElementRecord>{springs.begin(), springs.end()});
     writeAll(index, KeyGroups,
-             std::vector<GroupRecord>{
-                 makeGroup(1, QStringLiteral("Slab bay A")), makeGroup(2, QStringLiteral("Slab bay B")),
-                 makeGroup(3, QStringLiteral("Slab bay C")), makeGroup(4, QStringLiteral("Slab bay D")),
-                 makeGroup(10, QStringLiteral("Edge beams")), makeGroup(11, QStringLiteral("Columns"))});
+             std::vector<GroupRecord>{makeGroup(1, QStringLiteral("Slab bay A")), makeGroup(2, QStringLiteral("Slab bay B")),
+                                      makeGroup(3, QStringLiteral("Slab bay C")), makeGroup(4, QStringLiteral("Slab bay D")),
+                                      makeGroup(10, QStringLiteral("Edge beams")), makeGroup(11, QStringLiteral("Columns"))});
     if (secondary == DemoSecondaryGroups::Included) {
         // Named across the numbered groups: the strips over the middle supports and the edge.
         std::vector<GroupRecord> named;

@@ -50,22 +50,12 @@ QString describeModel(int index)
     {
         const char* name;
         bool (*query)(int, int*);
-    } parts[] = {{"nodes", hasNodes},
-                 {"quad elements", hasQuads},
-                 {"boundaries", hasBoundaries},
-                 {"beams", hasBeams},
-                 {"trusses", hasTrus},
-                 {"cables", hasCables},
-                 {"springs", hasSprings},
-                 {"bricks", hasBrics},
-                 {"points", hasPoints},
-                 {"lines", hasLines},
-                 {"areas", hasAreas},
-                 {"axes", hasAxes},
-                 {"quad tendons", hasQuadTendons},
-                 {"beam tendons", hasBeamTendons},
-                 {"beam sections", hasBscts},
-                 {"cross sections", hasCrossSections}};
+    } parts[] = {{"nodes", hasNodes},           {"quad elements", hasQuads},   {"boundaries", hasBoundaries},
+                 {"beams", hasBeams},           {"trusses", hasTrus},         {"cables", hasCables},
+                 {"springs", hasSprings},       {"bricks", hasBrics},         {"points", hasPoints},
+                 {"lines", hasLines},           {"areas", hasAreas},          {"axes", hasAxes},
+                 {"quad tendons", hasQuadTendons}, {"beam tendons", hasBeamTendons},
+                 {"beam sections", hasBscts},   {"cross sections", hasCrossSections}};
     for (const auto& p : parts) {
         int count = 0;
         p.query(index, &count);
@@ -73,8 +63,7 @@ QString describeModel(int index)
     }
     int k1 = KeyDesignLines, k2 = 0;
     vkd_zob_kenq_ex(index, &k1, &k2, 1);
-    text += QStringLiteral("design lines: %1\n")
-                .arg(k1 == KeyDesignLines ? QStringLiteral("yes") : QStringLiteral("no"));
+    text += QStringLiteral("design lines: %1\n").arg(k1 == KeyDesignLines ? QStringLiteral("yes") : QStringLiteral("no"));
     for (const GroupRecord& g : readAll<GroupRecord>(index, KeyGroups))
         text += QStringLiteral("group %1 %2\n").arg(g.number).arg(groupTitle(g));
     for (const GroupRecord& g : readAll<GroupRecord>(index, KeySecondaryGroups))

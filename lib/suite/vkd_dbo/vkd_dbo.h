@@ -9,8 +9,7 @@
 namespace vkd::dbo {
 
 // Key pairs of the model. key2 is 1 unless said otherwise.
-enum ModelKey : int
-{
+enum ModelKey : int {
     KeyKindOfSystem = 1,
     KeyNodes = 10,
     KeyQuads = 20,
@@ -113,8 +112,7 @@ QString secondaryGroupName(int32_t number);
 // All records of a key pair as plain structs; records of another size are skipped.
 template <typename Record> std::vector<Record> readAll(int index, int key1, int key2 = 1);
 // Replaces the records of a key pair.
-template <typename Record>
-void writeAll(int index, int key1, const std::vector<Record>& records, int key2 = 1);
+template <typename Record> void writeAll(int index, int key1, const std::vector<Record>& records, int key2 = 1);
 
 QString groupTitle(const GroupRecord& g);
 GroupRecord makeGroup(int number, const QString& title);
