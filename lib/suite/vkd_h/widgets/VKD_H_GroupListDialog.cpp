@@ -106,7 +106,13 @@ VKD_H_GroupListDialog::VKD_H_GroupListDialog(const std::vector<Entry>& groups, b
     connect(none, &QPushButton::clicked, this, [this] { checkShown(false); });
     connect(m_list, &QTreeWidget::itemChanged, this, &VKD_H_GroupListDialog::updateCount);
     updateCount();
-    resize(qMax(sizeHint().width(), 420), 420);
+    // Wide enough for the notes, which are read as a whole.
+    int columns = 0;
+    for (int column = ColumnGroup; column <= ColumnNote; ++column) {
+        m_list->resizeColumnToContents(column);
+        columns += m_list->header()->sectionSize(column);
+    }
+    resize(qMax(sizeHint().width(), qMax(420, columns + 60)), 420);
 }
 
 void VKD_H_GroupListDialog::addItem(int number, const QString& title, const QString& note, bool checked,
