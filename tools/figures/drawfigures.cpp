@@ -346,7 +346,8 @@ bool drawIcons(const QDir& out)
             p.scale(scale, scale);
             icon.draw(p);
             p.end();
-            const QString name = QString::number(icon.number) + (scale == 2 ? QStringLiteral("@2x.png") : QStringLiteral(".png"));
+            const QString name = QString::number(icon.number) +
+                                 (scale == 2 ? QStringLiteral("@2x.png") : QStringLiteral(".png"));
             if (!image.save(out.filePath(name))) {
                 std::fprintf(stderr, "cannot write %s\n", qPrintable(name));
                 return false;
