@@ -1,115 +1,216 @@
 // plib-host: a project dialog of the suite with the pages of libvkd_p_fea.so.
-//   plib-host [--lang de|en] [--screenshot <png>] [project]
+//   plib-host [--lang de|en] [--script-language de|en] [--script FILE|-] [--screenshots DIR] [PROJECT]
 // Without a project it opens the demo project beside the build (demo.vkd), and creates it
-// first if there is none. With --screenshot it shows the dialog, saves a picture of it and
-// quits without writing anything.
+// first if there is none. --script and --screenshots run without a window: the pages are built
+// and restored from the project, the script is written to FILE ("-": standard output) and a
+// picture of each page is saved into DIR; the project is not written.
 #include "PlibHostDialog.h"
 
 #include <VKD_H_ZOBDoc.h>
+#include <VKD_QT_InitTranslator.h>
+#include <VKD_QT_MessageBox.h>
 #include <newproject.h>
 #include <vkd_q.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QMessageBox>
-#include <QPixmap>
+#include <QLibraryInfo>
+#include <QSaveFile>
 #include <QScreen>
+#include <QTabWidget>
 #include <QTextStream>
+#include <QTranslator>
 
 namespace {
 
+// What scripts that call the host can tell apart.
+enum ExitStatus : int { ExitOk = 0, ExitCancelled = 1, ExitUsage = 2, ExitFailure = 3 };
+enum Language : int { German = 0, English = 1, DesktopLanguage = -1 };
+constexpr int languageSetting = 102;
+
+// Pictures for the documentation show the pages at a size of a usual desktop window.
+const QSize screenshotSize(1400, 760);
+
+const char* const usage =
+    "usage: plib-host [--lang de|en] [--script-language de|en] [--script FILE|-] [--screenshots DIR] [PROJECT]\n";
+
 struct Options
 {
-    int language = -1; // -1: as the desktop says
-    QString screenshot;
+    int language = DesktopLanguage;
+    bool englishKeywords = true;
+    QString script;
+    QString screenshots;
     QString project;
-    bool valid = true;
+    QString error;
+
+    bool batch() const { return !script.isEmpty() || !screenshots.isEmpty(); }
 };
 
-Options parse(int argc, char** argv)
+int languageArgument(const QString& text)
+{
+    if (text == QLatin1String("de"))
+        return German;
+    if (text == QLatin1String("en"))
+        return English;
+    return DesktopLanguage;
+}
+
+Options parse(const QStringList& args)
 {
     Options o;
-    for (int i = 1; i < argc; ++i) {
-        const QString arg = QString::fromLocal8Bit(argv[i]);
-        if (arg == QLatin1String("--lang") && i + 1 < argc) {
-            const QString lang = QString::fromLocal8Bit(argv[++i]);
-            if (lang == QLatin1String("de"))
-                o.language = 0;
-            else if (lang == QLatin1String("en"))
-                o.language = 1;
-            else
-                o.valid = false;
-        } else if (arg == QLatin1String("--screenshot") && i + 1 < argc) {
-            o.screenshot = QString::fromLocal8Bit(argv[++i]);
-        } else if (!arg.startsWith(QLatin1Char('-')) && o.project.isEmpty()) {
+    for (int i = 1; i < args.size() && o.error.isEmpty(); ++i) {
+        const QString& arg = args[i];
+        const bool valued = arg == QLatin1String("--lang") || arg == QLatin1String("--script-language") ||
+                            arg == QLatin1String("--script") || arg == QLatin1String("--screenshots");
+        if (valued && i + 1 >= args.size()) {
+            o.error = QStringLiteral("%1 needs a value").arg(arg);
+        } else if (arg == QLatin1String("--lang")) {
+            o.language = languageArgument(args[++i]);
+            if (o.language == DesktopLanguage)
+                o.error = QStringLiteral("--lang takes de or en, not \"%1\"").arg(args[i]);
+        } else if (arg == QLatin1String("--script-language")) {
+            const int keywords = languageArgument(args[++i]);
+            if (keywords == DesktopLanguage)
+                o.error = QStringLiteral("--script-language takes de or en, not \"%1\"").arg(args[i]);
+            o.englishKeywords = keywords == English;
+        } else if (arg == QLatin1String("--script")) {
+            o.script = args[++i];
+        } else if (arg == QLatin1String("--screenshots")) {
+            o.screenshots = args[++i];
+        } else if (arg.startsWith(QLatin1Char('-')) && arg != QLatin1String("-")) {
+            o.error = QStringLiteral("unknown option %1").arg(arg);
+        } else if (o.project.isEmpty()) {
             o.project = arg;
         } else {
-            o.valid = false;
+            o.error = QStringLiteral("one project only: %1").arg(arg);
         }
     }
     return o;
 }
 
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+// Qt's own texts (message box buttons, file dialogs) in the language of the desktop.
+void installQtTranslation(QCoreApplication& app)
+{
+    if (vkd_lib_getvalue(languageSetting) != German)
+        return;
+    auto* qt = new QTranslator(&app);
+    if (qt->load(QStringLiteral("qtbase_de"), QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(qt);
+}
+
+int runBatch(PlibHostDialog& dialog, const Options& options, QTextStream& out, QTextStream& err)
+{
+    int status = ExitOk;
+    if (!options.screenshots.isEmpty()) {
+        if (!QDir().mkpath(options.screenshots)) {
+            err << "plib-host: cannot create the folder " << options.screenshots << '\n';
+            return ExitFailure;
+        }
+        dialog.resize(dialog.sizeHint().expandedTo(screenshotSize));
+        dialog.show();
+        QTabWidget* tabs = dialog.tabWidget();
+        const QStringList names{QStringLiteral("design"), QStringLiteral("output"), QStringLiteral("pagesplitting"),
+                                QStringLiteral("loadcases")};
+        for (int i = 0; i < tabs->count(); ++i) {
+            tabs->setCurrentIndex(i);
+            QCoreApplication::processEvents();
+            const QString file = QDir(options.screenshots).filePath(names.value(i, QString::number(i)) + QStringLiteral(".png"));
+            if (!dialog.grab().save(file)) {
+                err << "plib-host: cannot write " << file << '\n';
+                status = ExitFailure;
+            }
+        }
+        out << "saved pictures of the pages to " << QDir(options.screenshots).absolutePath() << '\n';
+    }
+    if (!options.script.isEmpty()) {
+        const QByteArray script = PlibHostDialog::script(dialog.outputPage(), options.englishKeywords).toUtf8();
+        if (options.script == QLatin1String("-")) {
+            out.flush();
+            QFile stdOut;
+            stdOut.open(stdout, QIODevice::WriteOnly);
+            stdOut.write(script);
+        } else {
+            QSaveFile file(options.script);
+            if (!file.open(QIODevice::WriteOnly) || file.write(script) < 0 || !file.commit()) {
+                err << "plib-host: cannot write the script to " << options.script << ": " << file.errorString() << '\n';
+                return ExitFailure;
+            }
+        }
+    }
+    return status;
+}
+
 } // namespace
+
+// The host's own texts.
+static VKD_QT_InitTranslator g_hostTranslator("plib_host");
 
 int main(int argc, char** argv)
 {
     QTextStream out(stdout);
     QTextStream err(stderr);
-    const Options options = parse(argc, argv);
-    if (!options.valid) {
-        err << "usage: plib-host [--lang de|en] [--screenshot <png>] [project]\n";
-        return 2;
+    QStringList args;
+    for (int i = 0; i < argc; ++i)
+        args << QString::fromLocal8Bit(argv[i]);
+    const Options options = parse(args);
+    if (!options.error.isEmpty()) {
+        err << "plib-host: " << options.error << '\n' << usage;
+        return ExitUsage;
+    }
+    if (!hasDisplay()) {
+        if (!options.batch()) {
+            err << "plib-host: no display; run with --script or --screenshots to work without one\n";
+            return ExitUsage;
+        }
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        out << "No display: running offscreen\n";
     }
     // Before the application object: the library installs its German texts when that is made.
-    if (options.language >= 0)
-        vkd_lib_setvalue(102, options.language);
+    if (options.language != DesktopLanguage)
+        vkd_lib_setvalue(languageSetting, options.language);
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication app(argc, argv);
+    installQtTranslation(app);
 
     QString path = options.project;
     if (path.isEmpty()) {
-        path = QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../demo.vkd"));
-        path = QDir::cleanPath(path);
+        path = QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../demo.vkd")));
         QString error;
         if (!QFile::exists(path)) {
             if (!createDemoProject(path, &error)) {
                 err << "plib-host: " << error << '\n';
-                return 1;
+                return ExitFailure;
             }
             out << "created the demo project " << path << '\n';
-            out.flush();
         }
     }
-    // A picture is taken of a copy in memory: the default record that the page writes into a
-    // project without one stays out of the file.
-    VKD_H_ZOBDoc project(path, options.screenshot.isEmpty() ? VKD_H_ZOBDoc::OpenExisting
-                                                            : VKD_H_ZOBDoc::MemoryCopy);
+    out.flush();
+    // A batch run works on a copy in memory: what the pages write while they are built and
+    // restored (the default design record of a project without one) stays out of the file.
+    VKD_H_ZOBDoc project(path, options.batch() ? VKD_H_ZOBDoc::MemoryCopy : VKD_H_ZOBDoc::OpenExisting);
     if (!project.isValid()) {
         err << "plib-host: " << project.errorString() << '\n';
-        if (options.screenshot.isEmpty())
-            QMessageBox::critical(nullptr, QStringLiteral("plib-host"), project.errorString());
-        return 1;
+        if (!options.batch())
+            VKD_QT_MessageBox::critical(nullptr, QStringLiteral("plib-host"), project.errorString());
+        return ExitFailure;
     }
 
-    PlibHostDialog dialog(&project);
-    // As large as the pages would like, within the screen; a picture knows no screen.
-    QSize size = dialog.sizeHint();
-    if (options.screenshot.isEmpty()) {
-        if (const QScreen* screen = QGuiApplication::primaryScreen())
-            size = size.boundedTo(screen->availableSize() * 9 / 10);
-        dialog.resize(size);
-        dialog.exec();
-        return 0;
-    }
+    PlibHostDialog dialog(&project, options.englishKeywords);
+    if (options.batch())
+        return runBatch(dialog, options, out, err);
 
+    // As large as the pages would like, within the screen.
+    QSize size = dialog.sizeHint().expandedTo(QSize(1200, 720));
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        size = size.boundedTo(screen->availableSize() * 9 / 10);
     dialog.resize(size);
-    dialog.show();
-    QCoreApplication::processEvents();
-    if (!dialog.grab().save(options.screenshot)) {
-        err << "plib-host: cannot write " << options.screenshot << '\n';
-        return 1;
-    }
-    out << "saved a picture of the dialog on " << path << " to " << options.screenshot << '\n';
-    return 0;
+    return dialog.exec() == QDialog::Accepted ? ExitOk : ExitCancelled;
 }

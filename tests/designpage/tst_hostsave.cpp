@@ -4,6 +4,7 @@
 
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter.h>
+#include <VKD_QT_InitTranslator.h>
 #include <VKD_QT_Ok.h>
 #include <demomodel.h>
 #include <design.h>
@@ -87,6 +88,7 @@ void TestHostSave::okThatCannotSave()
     }
 
     vkd_lib_setvalue(102, language);
+    VKD_QT_InitTranslator hostTexts("plib_host");
     PlibHostDialog dialog(&project);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
@@ -118,7 +120,7 @@ void TestHostSave::okThatCannotSave()
     }
     const QString text = QStringLiteral("The project file %1 %2\n\n%3")
                              .arg(QFileInfo(file).absoluteFilePath(), reason, closing);
-    QCOMPARE(seen, (QStringList{"plib-host", text, QString::number(QMessageBox::Critical)}));
+    QCOMPARE(seen, (QStringList{dialog.windowTitle(), text, QString::number(QMessageBox::Warning)}));
     QVERIFY(cursorRestored);
     QVERIFY(dialog.isVisible());
     QCOMPARE(page->findChild<QTableWidget*>()->rowCount(), rowsBefore);

@@ -401,7 +401,7 @@ void TestZobFaults::readingWritesNothing_data()
     QTest::addColumn<QString>("said");
     const QString empty = QStringLiteral("empty.vkd");
     const QString bare = QStringLiteral("bare.vkd");
-    const QStringList shot{"--screenshot", "../shot.png", "@"};
+    const QStringList shot{"--screenshots", "../pictures", "@"};
     QTest::newRow("model of an empty file")
         << empty << QStringList{"model", "@"} << 1 << "is empty; it is not a project.";
     QTest::newRow("design of an empty file") << empty << QStringList{"design", "@"} << 1 << "is empty";
@@ -414,7 +414,7 @@ void TestZobFaults::readingWritesNothing_data()
     QTest::newRow("host picture of an empty file")
         << empty << (QStringList{"host"} + shot) << 1 << "is empty";
     QTest::newRow("host picture of a project without design records")
-        << bare << (QStringList{"host"} + shot) << 0 << "saved a picture";
+        << bare << (QStringList{"host"} + shot) << 0 << "saved pictures of the pages";
 }
 
 // Commands that only read or show leave the project and its folder exactly as they were,

@@ -6,7 +6,7 @@
 
 using namespace vkd::dbo;
 
-void writeDemoModel(int index)
+void writeDemoModel(int index, DemoSecondaryGroups secondary)
 {
     // A slab of 8 x 6 quads of 1 m, its four bays in groups 1 to 4; edge beams in group 10,
     // columns in group 11, springs under the columns.
@@ -44,6 +44,18 @@ void writeDemoModel(int index)
              std::vector<GroupRecord>{makeGroup(1, QStringLiteral("Slab bay A")), makeGroup(2, QStringLiteral("Slab bay B")),
                                       makeGroup(3, QStringLiteral("Slab bay C")), makeGroup(4, QStringLiteral("Slab bay D")),
                                       makeGroup(10, QStringLiteral("Edge beams")), makeGroup(11, QStringLiteral("Columns"))});
+    if (secondary == DemoSecondaryGroups::Included) {
+        // Named across the numbered groups: the strips over the middle supports and the edge.
+        std::vector<GroupRecord> named;
+        const char* const names[][2] = {
+            {"SX", "Strip over the support, x"}, {"SY", "Strip over the support, y"}, {"EDGE", "Slab edge"}};
+        for (const auto& n : names) {
+            int32_t number = 0;
+            packSecondaryGroupName(QString::fromLatin1(n[0]), &number);
+            named.push_back(makeGroup(number, QString::fromLatin1(n[1])));
+        }
+        writeAll(index, KeySecondaryGroups, named);
+    }
     writeAll(index, KeyLoadCases,
              std::vector<LoadCaseRecord>{makeLoadCase(1, 0, QStringLiteral("Self weight")),
                                          makeLoadCase(2, 0, QStringLiteral("Finishes")),

@@ -67,7 +67,10 @@ QString describeModel(int index)
     for (const GroupRecord& g : readAll<GroupRecord>(index, KeyGroups))
         text += QStringLiteral("group %1 %2\n").arg(g.number).arg(groupTitle(g));
     for (const GroupRecord& g : readAll<GroupRecord>(index, KeySecondaryGroups))
-        text += QStringLiteral("secondary group %1 %2\n").arg(g.number).arg(groupTitle(g));
+        text += QStringLiteral("secondary group %1 (%2) %3\n")
+                    .arg(secondaryGroupName(g.number))
+                    .arg(g.number)
+                    .arg(groupTitle(g));
     for (const LoadCaseRecord& l : readAll<LoadCaseRecord>(index, KeyLoadCases))
         text += QStringLiteral("load case %1 (kind %2) %3\n")
                     .arg(l.number)

@@ -4,7 +4,6 @@
 #include "design.h"
 
 #include <VKD_H_ZOBDoc.h>
-#include <vkd_q.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,10 +13,6 @@
 #include <unistd.h>
 
 namespace {
-
-// The whole demo is one write: either all of it is in the new file or the file is dropped.
-constexpr int kWholeProjectKey1 = 0;
-constexpr int kWholeProjectKey2 = 0;
 
 // Makes the rename itself survive a power cut.
 void syncFolder(const QString& folder)
@@ -34,10 +29,11 @@ QString fillProject(const QString& path)
     VKD_H_ZOBDoc doc(path, VKD_H_ZOBDoc::OpenOrCreate);
     if (!doc.isValid())
         return doc.errorString();
-    vkd_zob_lock_ex(doc.index(), kWholeProjectKey1, kWholeProjectKey2);
+    // One write: either all of the demo is in the new file or the file is dropped.
+    doc.beginWrite();
     writeDemoModel(doc.index());
     writeDemoDesign(doc);
-    vkd_zob_free_ex(doc.index(), kWholeProjectKey1, kWholeProjectKey2);
+    doc.endWrite();
     return doc.lastWriteError();
 }
 

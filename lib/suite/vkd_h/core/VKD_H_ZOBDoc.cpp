@@ -1,8 +1,13 @@
 #include "VKD_H_ZOBDoc.h"
 
+#include <vkd_dbo.h>
 #include <vkd_q.h>
 
 namespace {
+
+// The key pair of a write that spans the whole project; no records are kept under it.
+constexpr int kWholeProjectKey1 = -1;
+constexpr int kWholeProjectKey2 = -1;
 
 ZobOpenMode storeMode(VKD_H_ZOBDoc::OpenMode mode)
 {
@@ -21,13 +26,18 @@ ZobOpenMode storeMode(VKD_H_ZOBDoc::OpenMode mode)
 
 } // namespace
 
-VKD_H_ZOBDoc::VKD_H_ZOBDoc(const QString& path, OpenMode mode) : m_path(path)
+VKD_H_ZOBDoc::VKD_H_ZOBDoc(const QString& path, OpenMode mode)
+    : m_path(path)
 {
     m_index = vkd_zob_open(path, storeMode(mode), &m_error);
+    if (m_index > 0)
+        vkd::dbo::setCurrentProject(m_index);
 }
 
 VKD_H_ZOBDoc::~VKD_H_ZOBDoc()
 {
+    if (m_index > 0 && vkd::dbo::currentProject() == m_index)
+        vkd::dbo::setCurrentProject(0);
     vkd_zob_close(m_index);
 }
 
@@ -44,6 +54,16 @@ QString VKD_H_ZOBDoc::lastWriteError() const
 int VKD_H_ZOBDoc::lastWriteStatus() const
 {
     return vkd_zob_write_status(m_index);
+}
+
+int VKD_H_ZOBDoc::beginWrite()
+{
+    return vkd_zob_lock_ex(m_index, kWholeProjectKey1, kWholeProjectKey2);
+}
+
+void VKD_H_ZOBDoc::endWrite()
+{
+    vkd_zob_free_ex(m_index, kWholeProjectKey1, kWholeProjectKey2);
 }
 
 void VKD_H_ZOBDoc::setBusyTimeout(int milliseconds)

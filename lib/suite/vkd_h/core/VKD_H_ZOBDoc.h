@@ -34,6 +34,10 @@ public:
     // through. The pages ignore the results of their writes: the host asks here after each.
     QString lastWriteError() const;
     int lastWriteStatus() const;
+    // Makes the writes up to endWrite() one write: they land together or not at all, and
+    // when another program holds the project they wait for it once.
+    int beginWrite();
+    void endWrite();
     // How long a write waits for another program that holds the project.
     void setBusyTimeout(int milliseconds);
 
