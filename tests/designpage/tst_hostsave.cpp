@@ -10,6 +10,7 @@
 #include <design.h>
 #include <vkd_q.h>
 
+#include <QCryptographicHash>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -31,6 +32,13 @@ QByteArray designRecords(int index)
             return all;
         all.append(buffer, length);
     }
+}
+
+QByteArray fileHash(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha256)
+                                       : QByteArray();
 }
 
 } // namespace
@@ -93,6 +101,7 @@ void TestHostSave::okThatCannotSave()
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     auto* page = dialog.designPage();
+    const QByteArray file0 = fileHash(file);
     const int rowsBefore = page->findChild<QTableWidget*>()->rowCount();
 
     QStringList seen;
@@ -127,6 +136,7 @@ void TestHostSave::okThatCannotSave()
     if (cause == QLatin1String("held"))
         QVERIFY(holder.waitForFinished(20000));
     QCOMPARE(designRecords(project.index()), before);
+    QCOMPARE(fileHash(file), file0);
 }
 
 QTEST_MAIN(TestHostSave)
