@@ -318,6 +318,7 @@ void TestDistanceDirection::tableButton()
         return;
     }
     QVERIFY(table->item(row, 2)->text() != summary);
+    QCOMPARE(button->findChild<QLabel*>()->text(), table->item(row, 2)->text()); // the open button follows
     QVERIFY(matchesReference(changedLines(baseline, demo.written()), reference));
 }
 
