@@ -4,9 +4,11 @@
 // first if there is none. --script and --screenshots run without a window: the pages are built
 // and restored from the project, the script is written to FILE ("-": standard output) and a
 // picture of each page is saved into DIR; the project is not written.
+#include "GroupPickDialog.h"
 #include "PlibHostDialog.h"
 
 #include <VKD_H_ZOBDoc.h>
+#include <VKD_P_DesignParameter.h>
 #include <VKD_QT_InitTranslator.h>
 #include <VKD_QT_MessageBox.h>
 #include <newproject.h>
@@ -18,7 +20,10 @@
 #include <QLibraryInfo>
 #include <QSaveFile>
 #include <QScreen>
+#include <QAbstractButton>
 #include <QTabWidget>
+#include <QTableWidget>
+#include <QTimer>
 #include <QTextStream>
 #include <QTranslator>
 
@@ -26,6 +31,8 @@ namespace {
 
 // What scripts that call the host can tell apart.
 enum ExitStatus : int { ExitOk = 0, ExitCancelled = 1, ExitUsage = 2, ExitFailure = 3 };
+// What a group dialog closes the host's dialog with to let the user pick groups in the model.
+constexpr int pickInModel = 6;
 enum Language : int { German = 0, English = 1, DesktopLanguage = -1 };
 constexpr int languageSetting = 102;
 
@@ -105,7 +112,57 @@ void installQtTranslation(QCoreApplication& app)
         QCoreApplication::installTranslator(qt);
 }
 
-int runBatch(PlibHostDialog& dialog, const Options& options, QTextStream& out, QTextStream& err)
+// Opens a dialog by a click and saves a picture of it once it is up; false if it did not come
+// up or the picture could not be written.
+bool saveDialogPicture(QAbstractButton* opener, const QString& file)
+{
+    bool saved = false;
+    bool shown = false;
+    QTimer::singleShot(0, [&] {
+        if (QWidget* modal = QApplication::activeModalWidget()) {
+            shown = true;
+            saved = modal->grab().save(file);
+            modal->close();
+        }
+    });
+    opener->click();
+    return shown && saved;
+}
+
+// Pictures of the design page's dialogs, opened from the cells of its first row of design.
+bool saveDesignDialogPictures(PlibHostDialog& dialog, const QDir& folder, QTextStream& err)
+{
+    dialog.tabWidget()->setCurrentWidget(dialog.designPage());
+    auto* table = dialog.designPage()->findChild<QTableWidget*>();
+    if (!table || table->rowCount() < 2)
+        return true;
+    const struct
+    {
+        int column;
+        const char* button;
+        const char* file;
+    } dialogs[] = {{0, "buttonGroups", "groups.png"},
+                   {0, "buttonSekGroups", "secondarygroups.png"},
+                   {2, "cellButton", "directiondistance.png"},
+                   {3, "cellButton", "reinforcement.png"},
+                   {4, "cellButton", "crackcontrol.png"}};
+    bool ok = true;
+    for (const auto& d : dialogs) {
+        table->setCurrentCell(1, d.column);
+        QCoreApplication::processEvents();
+        QWidget* cell = table->cellWidget(1, d.column);
+        auto* opener = cell ? cell->findChild<QAbstractButton*>(QLatin1String(d.button)) : nullptr;
+        const QString file = folder.filePath(QLatin1String(d.file));
+        if (opener && opener->isEnabled() && !saveDialogPicture(opener, file)) {
+            err << "plib-host: cannot write " << file << '\n';
+            ok = false;
+        }
+    }
+    table->setCurrentCell(-1, -1);
+    return ok;
+}
+
+int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, QTextStream& out, QTextStream& err)
 {
     int status = ExitOk;
     if (!options.screenshots.isEmpty()) {
@@ -127,7 +184,16 @@ int runBatch(PlibHostDialog& dialog, const Options& options, QTextStream& out, Q
                 status = ExitFailure;
             }
         }
-        out << "saved pictures of the pages to " << QDir(options.screenshots).absolutePath() << '\n';
+        GroupPickDialog pick(projectIndex, &dialog);
+        pick.resize(420, 360);
+        pick.show();
+        QCoreApplication::processEvents();
+        if (!pick.grab().save(QDir(options.screenshots).filePath(QStringLiteral("grouppick.png"))))
+            status = ExitFailure;
+        pick.close();
+        if (!saveDesignDialogPictures(dialog, QDir(options.screenshots), err))
+            status = ExitFailure;
+        out << "saved pictures of the pages and dialogs to " << QDir(options.screenshots).absolutePath() << '\n';
     }
     if (!options.script.isEmpty()) {
         const QByteArray script = PlibHostDialog::script(dialog.outputPage(), options.englishKeywords).toUtf8();
@@ -205,12 +271,17 @@ int main(int argc, char** argv)
 
     PlibHostDialog dialog(&project, options.englishKeywords);
     if (options.batch())
-        return runBatch(dialog, options, out, err);
+        return runBatch(dialog, project.index(), options, out, err);
 
     // As large as the pages would like, within the screen.
     QSize size = dialog.sizeHint().expandedTo(QSize(1200, 720));
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         size = size.boundedTo(screen->availableSize() * 9 / 10);
     dialog.resize(size);
-    return dialog.exec() == QDialog::Accepted ? ExitOk : ExitCancelled;
+    int result;
+    // A group dialog of the design page leaves the dialog for a pick in the model and comes back
+    // when the dialog is shown again.
+    while ((result = dialog.exec()) == pickInModel)
+        GroupPickDialog::pickInto(project.index(), nullptr);
+    return result == QDialog::Accepted ? ExitOk : ExitCancelled;
 }

@@ -97,4 +97,15 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>GroupPickDialog</name>
+    <message>
+        <source>Pick Groups in the Model</source>
+        <translation>Gruppen im Modell wählen</translation>
+    </message>
+    <message>
+        <source>Choose the groups for the row: click, Ctrl-click, Shift-click, or drag over them.</source>
+        <translation>Wählen Sie die Gruppen der Zeile: Klick, Strg-Klick, Umschalt-Klick, oder mit der Maus darüber ziehen.</translation>
+    </message>
+</context>
 </TS>
