@@ -632,17 +632,6 @@ private slots:
         QCOMPARE(runTool(QStringLiteral("create"), demo), QStringLiteral("created %1\n").arg(demo));
         QVERIFY(matchesReference(runTool(QStringLiteral("design"), demo), QStringLiteral("demo-design.txt")));
         QVERIFY(matchesReference(runTool(QStringLiteral("model"), demo), QStringLiteral("demo-model.txt")));
-        // A wrong command is a usage error and opens (or creates) no file.
-        const QString absent = m_dir.filePath(QStringLiteral("absent.vkd"));
-        for (const QStringList& args : {QStringList{QStringLiteral("modle"), absent},
-                                        QStringList{QStringLiteral("dump"), absent, QStringLiteral("10")},
-                                        QStringList{QStringLiteral("create"), absent, QStringLiteral("extra")}}) {
-            QProcess tool;
-            tool.start(QStringLiteral(PROJECT_TOOL), args);
-            QVERIFY(tool.waitForFinished(30000));
-            QCOMPARE(tool.exitCode(), 2);
-            QVERIFY2(!QFile::exists(absent), qPrintable(args.join(QLatin1Char(' '))));
-        }
         m_doc.reset();
         QString out = runTool(QStringLiteral("design"), odd);
         {

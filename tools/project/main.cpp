@@ -36,13 +36,6 @@ int main(int argc, char** argv)
         return usage(err);
     const QString command = args.at(0);
     const QString path = args.at(1);
-    // A wrong command opens no file.
-    const bool known =
-        (command == QLatin1String("create") && args.size() == 2) ||
-        (command == QLatin1String("dump") && args.size() == 4) ||
-        ((command == QLatin1String("model") || command == QLatin1String("design")) && args.size() == 2);
-    if (!known)
-        return usage(err);
 
     if (command == QLatin1String("create")) {
         if (QFile::exists(path)) {
@@ -65,7 +58,7 @@ int main(int argc, char** argv)
         err << "plib-project: " << doc.errorString() << '\n';
         return 1;
     }
-    if (command == QLatin1String("dump")) {
+    if (command == QLatin1String("dump") && args.size() == 4) {
         bool ok1 = false, ok2 = false;
         const int key1 = args.at(2).toInt(&ok1);
         const int key2 = args.at(3).toInt(&ok2);
@@ -78,6 +71,9 @@ int main(int argc, char** argv)
         out << dumpDesignRecords(doc.index());
         return 0;
     }
-    out << describeModel(doc.index());
-    return 0;
+    if (command == QLatin1String("model")) {
+        out << describeModel(doc.index());
+        return 0;
+    }
+    return usage(err);
 }
