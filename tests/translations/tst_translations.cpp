@@ -36,46 +36,33 @@ QList<Message> readTs(const QString& path, QString* error)
     QXmlStreamReader xml(&file);
     QString context;
     Message current;
+    bool plural = false;
     bool obsolete = false;
-    bool anyForm = false;
-    bool emptyForm = false;
     while (!xml.atEnd()) {
         xml.readNext();
         if (xml.isStartElement()) {
             const auto name = xml.name();
-            if (name == QLatin1String("context")) {
-                context.clear();
-            } else if (name == QLatin1String("name")) {
+            if (name == QLatin1String("name")) {
                 context = xml.readElementText();
             } else if (name == QLatin1String("message")) {
                 current = Message{context, {}, {}, false};
-                anyForm = emptyForm = false;
+                plural = xml.attributes().value(QLatin1String("numerus")) == QLatin1String("yes");
             } else if (name == QLatin1String("source")) {
                 current.source = xml.readElementText();
             } else if (name == QLatin1String("comment")) {
                 current.comment = xml.readElementText();
             } else if (name == QLatin1String("translation")) {
-                const QString type = xml.attributes().value(QLatin1String("type")).toString();
+                const auto type = xml.attributes().value(QLatin1String("type"));
                 obsolete = type == QLatin1String("obsolete") || type == QLatin1String("vanished");
                 current.finished = type.isEmpty();
-                // A plural message carries its forms as children; a singular one its text.
-                QString text;
-                while (!(xml.isEndElement() && xml.name() == QLatin1String("translation")) && !xml.atEnd()) {
-                    xml.readNext();
-                    if (xml.isCharacters())
-                        text += xml.text();
-                    if (xml.isStartElement() && xml.name() == QLatin1String("numerusform")) {
-                        anyForm = true;
-                        emptyForm = emptyForm || xml.readElementText().trimmed().isEmpty();
-                    }
-                }
-                if (anyForm ? emptyForm : text.trimmed().isEmpty())
+                // A plural message carries its forms as children, each of which must be filled.
+                if (!plural && xml.readElementText().trimmed().isEmpty())
                     current.finished = false;
+            } else if (name == QLatin1String("numerusform") && xml.readElementText().trimmed().isEmpty()) {
+                current.finished = false;
             }
-        } else if (xml.isEndElement() && xml.name() == QLatin1String("message")) {
-            if (!obsolete)
-                messages << current;
-            obsolete = false;
+        } else if (xml.isEndElement() && xml.name() == QLatin1String("message") && !obsolete) {
+            messages << current;
         }
     }
     if (xml.hasError())
