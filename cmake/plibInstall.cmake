@@ -20,6 +20,8 @@ function(plib_install_library target)
     list(APPEND wrapped "$<BUILD_INTERFACE:${dir}>")
   endforeach()
   set_target_properties(${target} PROPERTIES INTERFACE_INCLUDE_DIRECTORIES "${wrapped}")
+  # The same name as the installed target, for a host that builds plib as part of its own tree.
+  add_library(plib::${target} ALIAS ${target})
   install(TARGETS ${target} EXPORT plibTargets INCLUDES DESTINATION ${PLIB_INCLUDE_INSTALL_DIR})
   foreach(folder ${ARGN})
     file(GLOB headers ${folder}/*.h)
