@@ -631,6 +631,7 @@ private slots:
         const QString demo = m_dir.filePath(QStringLiteral("demo.vkd")), odd = m_doc->path();
         QCOMPARE(runTool(QStringLiteral("create"), demo), QStringLiteral("created %1\n").arg(demo));
         QVERIFY(matchesReference(runTool(QStringLiteral("design"), demo), QStringLiteral("demo-design.txt")));
+        QVERIFY(matchesReference(runTool(QStringLiteral("model"), demo), QStringLiteral("demo-model.txt")));
         m_doc.reset();
         QString out = runTool(QStringLiteral("design"), odd);
         {

@@ -252,8 +252,8 @@ void TestGroupSelection::userSteps_data()
         << "-1|3,99,SX|10"
         << "at 1|groups:filter:99 selectNone ok|type 1"
         << "{- 1|Slab bay A| / - 2|Slab bay B| / x 3|Slab bay C| / - 4|Slab bay D| / "
-           "- 10|Edge beams|used in another row / - 11|Columns| / x 99||not in the model / x SX||secondary "
-           "group} "
+           "- 10|Edge beams|used in another row / - 11|Columns| / - 12|Walls| / x 99||not in the model / x "
+           "SX||secondary group} "
            "[None|*3;SX] Remaining Groups|3;SX|10";
     QTest::newRow("primary: confirmed with nothing checked") << "-1|3,4"
                                                              << "at 1|groups:selectNone ok|type 1"

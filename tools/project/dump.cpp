@@ -76,5 +76,8 @@ QString describeModel(int index)
                     .arg(l.number)
                     .arg(l.kind)
                     .arg(QString::fromUtf8(l.title, int(strnlen(l.title, sizeof l.title))));
+    // The camera store speaks of the current project: the one this tool opened last.
+    const QString camera = getAnimatorPerspektive(0, CameraPersistentForm);
+    text += QStringLiteral("camera: %1\n").arg(camera.isEmpty() ? QStringLiteral("none") : camera);
     return text;
 }

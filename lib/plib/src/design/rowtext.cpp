@@ -116,9 +116,9 @@ const char* designTypeName(int type)
 QString groupListText(const std::vector<int32_t>& groups)
 {
     if (groups.empty())
-        return tr("None");
+        return tr(QT_TRANSLATE_NOOP("DesignParameter", "None"));
     if (groups.size() == 1 && groups.front() == -1)
-        return tr("Remaining Groups");
+        return tr(QT_TRANSLATE_NOOP("DesignParameter", "Remaining Groups"));
     QStringList parts;
     for (int32_t v : groups)
         parts << (v < 1000000 ? QStringLiteral("%1").arg(v, 0, 10, QChar(' '))
