@@ -35,8 +35,7 @@ const QString loadCaseStateKey = QStringLiteral("LoadCases");
 } // namespace
 
 PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, bool englishKeywords, QWidget* parent)
-    : VKD_QT_TabDialog(parent, "plibHost"), m_project(project),
-      m_parameter(new VKD_H_PluginParameter(project))
+    : VKD_QT_TabDialog(parent, "plibHost"), m_project(project), m_parameter(new VKD_H_PluginParameter(project))
 {
     setWindowTitle(tr("Project %1").arg(QFileInfo(project->path()).fileName()));
     // The pages are children of the dialog from the start, so that they find the dialog they
@@ -53,11 +52,11 @@ PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, bool englishKeywords, QWid
     addTab(m_loadCases, tr("Load Cases"));
 
     m_outputRows.reset(new VKD_P_WidgetGraphicalOutput_TableWidgetData);
-    m_outputRows->setWidgets(m_output, m_loadCases->table(), LoadCasePage::NumberColumn,
-                             LoadCasePage::UseColumn, LoadCasePage::TitleColumn);
+    m_outputRows->setWidgets(m_output, m_loadCases->table(), LoadCasePage::NumberColumn, LoadCasePage::UseColumn,
+                             LoadCasePage::TitleColumn);
     m_splitRows.reset(new VKD_P_WidgetGraphicalOutput_TableWidgetData);
-    m_splitRows->setWidgets(m_split, m_loadCases->table(), LoadCasePage::NumberColumn,
-                            LoadCasePage::UseColumn, LoadCasePage::TitleColumn);
+    m_splitRows->setWidgets(m_split, m_loadCases->table(), LoadCasePage::NumberColumn, LoadCasePage::UseColumn,
+                            LoadCasePage::TitleColumn);
     connect(m_loadCases, &LoadCasePage::choiceChanged, this, &PlibHostDialog::applyLoadCaseChoice);
 
     // The script beside the tabs: the dialog's first child in the layout is the tab widget.
@@ -176,8 +175,8 @@ bool PlibHostDialog::save(QString* error)
 
     for (VKD_P_WidgetGraphicalOutput* page : {m_output, m_split}) {
         QSaveFile file(scriptPath(page));
-        if (!file.open(QIODevice::WriteOnly) ||
-            file.write(script(page, m_preview->englishKeywords()).toUtf8()) < 0 || !file.commit()) {
+        if (!file.open(QIODevice::WriteOnly) || file.write(script(page, m_preview->englishKeywords()).toUtf8()) < 0 ||
+            !file.commit()) {
             *error = tr("The script could not be written to %1: %2. The project was saved.")
                          .arg(QDir::toNativeSeparators(scriptPath(page)), file.errorString());
             return false;

@@ -85,70 +85,22 @@ void setKindOfSystem(int index, int kind)
 }
 template void writeAll<structKindSystem>(int, int, const std::vector<structKindSystem>&, int);
 
-bool hasNodes(int index, int* count)
-{
-    return countRecords(index, KeyNodes, count);
-}
-bool hasQuads(int index, int* count)
-{
-    return countRecords(index, KeyQuads, count);
-}
-bool hasBoundaries(int index, int* count)
-{
-    return countRecords(index, KeyBoundaries, count);
-}
-bool hasBeams(int index, int* count)
-{
-    return countRecords(index, KeyBeams, count);
-}
-bool hasTrus(int index, int* count)
-{
-    return countRecords(index, KeyTrusses, count);
-}
-bool hasBscts(int index, int* count)
-{
-    return countRecords(index, KeyBeamSections, count);
-}
-bool hasPoints(int index, int* count)
-{
-    return countRecords(index, KeyPoints, count);
-}
-bool hasLines(int index, int* count)
-{
-    return countRecords(index, KeyLines, count);
-}
-bool hasAreas(int index, int* count)
-{
-    return countRecords(index, KeyAreas, count);
-}
-bool hasAxes(int index, int* count)
-{
-    return countRecords(index, KeyAxes, count);
-}
-bool hasCables(int index, int* count)
-{
-    return countRecords(index, KeyCables, count);
-}
-bool hasSprings(int index, int* count)
-{
-    return countRecords(index, KeySprings, count);
-}
-bool hasBrics(int index, int* count)
-{
-    return countRecords(index, KeyBricks, count);
-}
-bool hasQuadTendons(int index, int* count)
-{
-    return countRecords(index, KeyQuadTendons, count);
-}
-bool hasBeamTendons(int index, int* count)
-{
-    return countRecords(index, KeyBeamTendons, count);
-}
-bool hasCrossSections(int index, int* count)
-{
-    return countRecords(index, KeyCrossSections, count);
-}
+bool hasNodes(int index, int* count) { return countRecords(index, KeyNodes, count); }
+bool hasQuads(int index, int* count) { return countRecords(index, KeyQuads, count); }
+bool hasBoundaries(int index, int* count) { return countRecords(index, KeyBoundaries, count); }
+bool hasBeams(int index, int* count) { return countRecords(index, KeyBeams, count); }
+bool hasTrus(int index, int* count) { return countRecords(index, KeyTrusses, count); }
+bool hasBscts(int index, int* count) { return countRecords(index, KeyBeamSections, count); }
+bool hasPoints(int index, int* count) { return countRecords(index, KeyPoints, count); }
+bool hasLines(int index, int* count) { return countRecords(index, KeyLines, count); }
+bool hasAreas(int index, int* count) { return countRecords(index, KeyAreas, count); }
+bool hasAxes(int index, int* count) { return countRecords(index, KeyAxes, count); }
+bool hasCables(int index, int* count) { return countRecords(index, KeyCables, count); }
+bool hasSprings(int index, int* count) { return countRecords(index, KeySprings, count); }
+bool hasBrics(int index, int* count) { return countRecords(index, KeyBricks, count); }
+bool hasQuadTendons(int index, int* count) { return countRecords(index, KeyQuadTendons, count); }
+bool hasBeamTendons(int index, int* count) { return countRecords(index, KeyBeamTendons, count); }
+bool hasCrossSections(int index, int* count) { return countRecords(index, KeyCrossSections, count); }
 bool hasGroups(int index, int* count)
 {
     return countRecords(index, KeyGroups, count);
@@ -198,9 +150,9 @@ QString secondaryGroupName(int32_t number)
 QString cameraText(const Camera& camera, int form)
 {
     if (form == CameraPersistentForm)
-        return QStringList{QString::number(camera.azimuth, 'g', 10),
-                           QString::number(camera.elevation, 'g', 10), QString::number(camera.zoom, 'g', 10),
-                           QString::number(camera.panX, 'g', 10), QString::number(camera.panY, 'g', 10)}
+        return QStringList{QString::number(camera.azimuth, 'g', 10), QString::number(camera.elevation, 'g', 10),
+                           QString::number(camera.zoom, 'g', 10), QString::number(camera.panX, 'g', 10),
+                           QString::number(camera.panY, 'g', 10)}
             .join(QLatin1Char(' '));
     constexpr double degree = M_PI / 180.0;
     const double x = std::cos(camera.elevation * degree) * std::sin(camera.azimuth * degree);
