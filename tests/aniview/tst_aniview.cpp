@@ -130,11 +130,11 @@ void TestAniview::projection_data()
     QTest::addColumn<bool>("inOrder");
     QTest::addColumn<QString>("expected");
     QTest::newRow("X/Y, back to front")
-        << 3 << true << "A5[73-127,73-127] L(19,100)-(181,100) A7[73-127,73-127]";
+        << 3 << true << "A5[72-128,72-128] L(15,100)-(185,100) A7[72-128,72-128]";
     QTest::newRow("X/Z, squares edge-on")
-        << 4 << false << "A5[73-127,127-127] A7[73-127,73-73] L(19,100)-(181,100)";
+        << 4 << false << "A5[72-128,128-128] A7[72-128,72-72] L(15,100)-(185,100)";
     QTest::newRow("Y/Z, beam end-on")
-        << 5 << false << "A5[73-127,127-127] A7[73-127,73-73] L(100,100)-(100,100)";
+        << 5 << false << "A5[15-185,185-185] A7[15-185,15-15] L(100,100)-(100,100)";
 }
 
 void TestAniview::projection()

@@ -79,4 +79,9 @@
     <name>VKD_H_SecondaryGroupDialog</name>
     <message><source>Secondary Group Selection</source><translation>Auswahl der Sekundärgruppen</translation></message>
 </context>
+<context>
+    <name>AnimatorView</name>
+    <message><source>The project holds no model to show.</source><translation>Das Projekt enthält kein Modell zum Anzeigen.</translation></message>
+    <message><source>Left drag turns the model, middle drag moves it, the wheel zooms. Choose &quot;User defined&quot; to turn it by hand.</source><translation>Ziehen mit der linken Maustaste dreht das Modell, mit der mittleren verschiebt es, das Mausrad zoomt. Wählen Sie &quot;Benutzerdefiniert&quot;, um es von Hand zu drehen.</translation></message>
+</context>
 </TS>

@@ -29,13 +29,16 @@ Vec3 cross(const Vec3& a, const Vec3& b)
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
 
-// Share of the viewport's smaller side that the model's bounding sphere takes at zoom 1.
-constexpr double kFill = 0.9;
+// Share of the viewport that the model takes at zoom 1.
+constexpr double kFill = 0.85;
+// Least extent on the screen, as a share of the model's diameter, that the scale assumes.
+constexpr double kLeastExtent = 0.05;
 // Nodes are drawn only where they stand at least this far apart on the screen (pixels), so that
 // a fine mesh does not turn into a field of dots.
 constexpr double kNodeSpacing = 8.0;
-// Light comes from the eye; a face seen edge-on keeps this much of its colour.
-constexpr double kAmbient = 0.35;
+// Light comes from the eye; a face seen edge-on keeps this much of its colour, and a face turned
+// half away still most of it.
+constexpr double kAmbient = 0.5;
 
 } // namespace
 
@@ -121,7 +124,7 @@ void PreviewScene::setModel(const std::vector<NodeRecord>& nodes, const std::vec
 void PreviewScene::finish()
 {
     if (m_points.empty()) {
-        m_centre = {};
+        m_centre = m_half = {};
         m_radius = 1.0;
         return;
     }
@@ -131,8 +134,8 @@ void PreviewScene::finish()
         high = {std::max(high.x, p.x), std::max(high.y, p.y), std::max(high.z, p.z)};
     }
     m_centre = {(low.x + high.x) / 2.0, (low.y + high.y) / 2.0, (low.z + high.z) / 2.0};
-    const Vec3 half = minus(high, m_centre);
-    m_radius = std::sqrt(dot(half, half));
+    m_half = minus(high, m_centre);
+    m_radius = std::sqrt(dot(m_half, m_half));
     // A single node or a model in one point still gets a scale.
     if (!(m_radius > 0.0))
         m_radius = 1.0;
@@ -142,10 +145,26 @@ const std::vector<DrawItem>& PreviewScene::project(const Camera& camera, QSize v
 {
     m_items.clear();
     const ViewBasis b = viewBasis(camera);
-    const double scale =
-        camera.zoom * kFill * std::min(viewport.width(), viewport.height()) / (2.0 * m_radius);
-    const double cx = viewport.width() / 2.0 + camera.panX * viewport.width();
-    const double cy = viewport.height() / 2.0 + camera.panY * viewport.height();
+    // The model's box as the camera sees it decides the scale and the centre, so that a fixed view
+    // fills the viewport and a turn by hand changes the scale smoothly.
+    double left = 0.0, right = 0.0, bottom = 0.0, top = 0.0;
+    for (int corner = 0; corner < 8; ++corner) {
+        const Vec3 p{corner & 1 ? m_half.x : -m_half.x, corner & 2 ? m_half.y : -m_half.y,
+                     corner & 4 ? m_half.z : -m_half.z};
+        const double x = dot(p, b.right), y = dot(p, b.up);
+        left = corner ? std::min(left, x) : x;
+        right = corner ? std::max(right, x) : x;
+        bottom = corner ? std::min(bottom, y) : y;
+        top = corner ? std::max(top, y) : y;
+    }
+    // A model seen edge-on is not blown up without end.
+    const double least = kLeastExtent * 2.0 * m_radius;
+    const double scale = camera.zoom * kFill *
+                         std::min(viewport.width() / std::max(right - left, least),
+                                  viewport.height() / std::max(top - bottom, least));
+    const double cx = viewport.width() / 2.0 + camera.panX * viewport.width() - (left + right) / 2.0 * scale;
+    const double cy =
+        viewport.height() / 2.0 + camera.panY * viewport.height() + (bottom + top) / 2.0 * scale;
     m_screen.resize(m_points.size());
     m_depth.resize(m_points.size());
     for (size_t i = 0; i < m_points.size(); ++i) {
@@ -195,7 +214,8 @@ const std::vector<DrawItem>& PreviewScene::project(const Camera& camera, QSize v
             item.corners[k] = m_screen[size_t(e.corners[k])];
         if (e.kind == DrawItem::Area) {
             // Two-sided: a face is as bright from behind as from the front.
-            const double light = kAmbient + (1.0 - kAmbient) * std::abs(dot(e.normal, b.towardsEye));
+            const double light =
+                kAmbient + (1.0 - kAmbient) * std::sqrt(std::abs(dot(e.normal, b.towardsEye)));
             item.fill = QColor::fromRgbF(e.colour.redF() * light, e.colour.greenF() * light,
                                          e.colour.blueF() * light);
             item.edge = item.fill.darker(140);

@@ -59,8 +59,8 @@ public:
     int areaCount() const { return m_areaCount; }
     int lineCount() const { return m_lineCount; }
 
-    // The model projected into a viewport of this size, back to front. The whole model fits into
-    // the viewport at zoom 1 and no pan, whatever the direction.
+    // The model projected into a viewport of this size, back to front. At zoom 1 and no pan the
+    // model's box, as the camera sees it, fills the viewport and stands in its middle.
     const std::vector<DrawItem>& project(const vkd::dbo::Camera& camera, QSize viewport);
 
     // Fills the items in order; the painter's state is left as it was.
@@ -85,6 +85,7 @@ private:
     int m_areaCount = 0;
     int m_lineCount = 0;
     Vec3 m_centre;
+    Vec3 m_half; // half the sides of the model's box
     double m_radius = 1.0;
     // Per frame, kept to spare the allocations.
     std::vector<QPointF> m_screen;

@@ -33,6 +33,9 @@ AnimatorView::AnimatorView(int index, QWidget* parent) : QWidget(parent), m_inde
     setObjectName(QStringLiteral("AnimatorView"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::WheelFocus);
+    setToolTip(
+        tr("Left drag turns the model, middle drag moves it, the wheel zooms. Choose \"User defined\" to "
+           "turn it by hand."));
     m_scene.load(m_index);
 }
 
