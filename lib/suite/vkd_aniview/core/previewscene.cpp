@@ -74,6 +74,7 @@ void PreviewScene::setModel(const std::vector<NodeRecord>& nodes, const std::vec
     m_points.clear();
     m_elements.clear();
     m_areaCount = m_lineCount = 0;
+    m_projectedValid = false;
     std::unordered_map<int32_t, int> slotOf;
     slotOf.reserve(nodes.size());
     for (const NodeRecord& n : nodes) {
@@ -143,6 +144,15 @@ void PreviewScene::finish()
 
 const std::vector<DrawItem>& PreviewScene::project(const Camera& camera, QSize viewport)
 {
+    // A repaint with nothing changed, as after a tooltip or an expose, only fills again.
+    const Camera& c = m_projectedCamera;
+    if (m_projectedValid && viewport == m_projectedViewport && camera.azimuth == c.azimuth &&
+        camera.elevation == c.elevation && camera.zoom == c.zoom && camera.panX == c.panX &&
+        camera.panY == c.panY)
+        return m_items;
+    m_projectedValid = true;
+    m_projectedCamera = camera;
+    m_projectedViewport = viewport;
     m_items.clear();
     const ViewBasis b = viewBasis(camera);
     // The model's box as the camera sees it decides the scale and the centre, so that a fixed view

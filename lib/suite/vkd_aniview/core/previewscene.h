@@ -87,6 +87,10 @@ private:
     Vec3 m_centre;
     Vec3 m_half; // half the sides of the model's box
     double m_radius = 1.0;
+    // The last projection, kept for a repaint with the same camera and size.
+    bool m_projectedValid = false;
+    vkd::dbo::Camera m_projectedCamera;
+    QSize m_projectedViewport;
     // Per frame, kept to spare the allocations.
     std::vector<QPointF> m_screen;
     std::vector<double> m_depth;
