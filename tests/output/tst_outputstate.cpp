@@ -99,8 +99,9 @@ class TestOutputState : public QObject
 {
     Q_OBJECT
 private slots:
-    // Whatever a value holds comes back unchanged, the first of two parts with the same tag; a
-    // missing or broken part gives a null string, an empty value an empty one.
+    // Whatever a value holds comes back unchanged, the first of two parts with the same tag, and
+    // the second from a position inside the first; a missing or broken part, or none behind the
+    // position, gives a null string, an empty value an empty one.
     void xmlParts_data()
     {
         QTest::addColumn<QString>("xml");
@@ -117,16 +118,23 @@ private slots:
         }
         QTest::newRow("missing tag") << "<a <b>>1</a <b>><A &lt;b&gt;>1</A &lt;b&gt;>" << QString();
         QTest::newRow("not closed") << "<a &lt;b&gt;>12</a &lt;b&gt" << QString();
-        QTest::newRow("unknown entity kept") << "<a &lt;b&gt;>&nbsp;&amp</a &lt;b&gt;>"
-                                             << "&nbsp;&amp";
+        QTest::newRow("unknown entity kept")
+            << "<a &lt;b&gt;>&nbsp;&amp</a &lt;b&gt;><a &lt;b&gt;>2</a &lt;b&gt;>"
+            << "&nbsp;&amp";
     }
     void xmlParts()
     {
         QFETCH(QString, xml);
         QFETCH(QString, value);
-        const QString read = vkd_qt_readXMLpart(xml, 0, QStringLiteral("a <b>"), nullptr);
+        int next = 0;
+        const QString read = vkd_qt_readXMLpart(xml, 0, QStringLiteral("a <b>"), &next);
         QCOMPARE(read.isNull(), value.isNull());
         QCOMPARE(read, value);
+        QCOMPARE(next, value.isNull() ? -1 : int(xml.indexOf("<a &lt;b&gt;>2")));
+        if (!value.isNull())
+            QCOMPARE(
+                vkd_qt_readXMLpart(xml, xml.indexOf("</a &lt;b&gt;>") + 1, QStringLiteral("a <b>"), &next),
+                "2");
     }
 
     // The string of a page, tree choice included; a new page that reads it writes it again.
