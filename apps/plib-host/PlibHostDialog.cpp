@@ -3,6 +3,7 @@
 #include "LoadCasePage.h"
 #include "ScriptPreview.h"
 
+#include <AnimatorView.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter.h>
@@ -42,7 +43,8 @@ PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, bool englishKeywords, QWid
     // may leave for a pick in the model and the tabs they are shown in.
     m_design = new VKD_P_DesignParameter(project, project, this, false, false);
     m_design->init();
-    m_output = new VKD_P_WidgetGraphicalOutput(this, GraphicalOutputStandard, m_parameter.get(), nullptr);
+    m_output = new VKD_P_WidgetGraphicalOutput(this, GraphicalOutputStandard, m_parameter.get(),
+                                               new AnimatorView(project->index()));
     m_split = new VKD_P_WidgetGraphicalOutput(this, GraphicalOutputSplit, m_parameter.get(), nullptr);
     m_loadCases = new LoadCasePage(project->index(), this);
     addTab(m_design, tr("Design Parameters"));

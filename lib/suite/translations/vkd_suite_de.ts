@@ -103,4 +103,9 @@
     <message><source>The project file %1 was left in the middle of a write; open it once for editing so that the unfinished write is undone.</source><translation>Die Projektdatei %1 wurde mitten in einem Schreibvorgang verlassen; öffnen Sie sie einmal zum Bearbeiten, damit der unvollendete Schreibvorgang rückgängig gemacht wird.</translation></message>
     <message><source>The project file %1 has format version %2; this program reads version %3 only.</source><translation>Die Projektdatei %1 hat die Formatversion %2; dieses Programm liest nur Version %3.</translation></message>
 </context>
+<context>
+    <name>AnimatorView</name>
+    <message><source>The project holds no model to show.</source><translation>Das Projekt enthält kein Modell zum Anzeigen.</translation></message>
+    <message><source>Left drag turns the model, middle drag moves it, the wheel zooms. Choose &quot;User defined&quot; to turn it by hand.</source><translation>Ziehen mit der linken Maustaste dreht das Modell, mit der mittleren verschiebt es, das Mausrad zoomt. Wählen Sie &quot;Benutzerdefiniert&quot;, um es von Hand zu drehen.</translation></message>
+</context>
 </TS>
