@@ -1,11 +1,14 @@
 #include "GroupPickDialog.h"
 
+#include <AnimatorView.h>
+#include <VKD_QT_SignalBlocker.h>
 #include <vkd_dbo.h>
 #include <vkd_h_grouppick.h>
 
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QSplitter>
 #include <QVBoxLayout>
 
 GroupPickDialog::GroupPickDialog(int projectIndex, QWidget* parent) : QDialog(parent)
@@ -13,10 +16,16 @@ GroupPickDialog::GroupPickDialog(int projectIndex, QWidget* parent) : QDialog(pa
     setObjectName(QStringLiteral("groupPick"));
     setWindowTitle(tr("Pick Groups in the Model"));
     auto* layout = new QVBoxLayout(this);
-    auto* note = new QLabel(tr("Choose the groups for the row: click, Ctrl-click, Shift-click, or drag over them."), this);
+    auto* note = new QLabel(tr("Choose the groups for the row in the model: click, Ctrl-click or drag a rectangle "
+                               "over them (a right drag turns the model), or in the list."),
+                            this);
     note->setWordWrap(true);
     layout->addWidget(note);
-    m_list = new QListWidget(this);
+    auto* splitter = new QSplitter(this);
+    m_preview = new AnimatorView(projectIndex, splitter);
+    m_preview->setPickMode(true);
+    m_preview->setMinimumSize(360, 280);
+    m_list = new QListWidget(splitter);
     m_list->setObjectName(QStringLiteral("groupList"));
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     using namespace vkd::dbo;
@@ -28,11 +37,32 @@ GroupPickDialog::GroupPickDialog(int projectIndex, QWidget* parent) : QDialog(pa
         auto* item = new QListWidgetItem(QStringLiteral("%1  %2").arg(secondaryGroupName(g.number), groupTitle(g)), m_list);
         item->setData(Qt::UserRole, g.number);
     }
-    layout->addWidget(m_list, 1);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 1);
+    layout->addWidget(splitter, 1);
+    connect(m_preview, &AnimatorView::pickChanged, this, &GroupPickDialog::showPickInList);
+    connect(m_list, &QListWidget::itemSelectionChanged, this, &GroupPickDialog::showPickInPreview);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
+    resize(760, 480);
+}
+
+void GroupPickDialog::showPickInList()
+{
+    const std::vector<int>& picked = m_preview->pickedGroups();
+    const VKD_QT_SignalBlocker blocker(m_list);
+    for (int row = 0; row < m_list->count(); ++row) {
+        QListWidgetItem* item = m_list->item(row);
+        item->setSelected(std::binary_search(picked.begin(), picked.end(), item->data(Qt::UserRole).toInt()));
+    }
+    m_list->viewport()->update();
+}
+
+void GroupPickDialog::showPickInPreview()
+{
+    m_preview->setPickedGroups(pickedGroups());
 }
 
 std::vector<int> GroupPickDialog::pickedGroups() const

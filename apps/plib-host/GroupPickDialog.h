@@ -4,10 +4,12 @@
 
 #include <vector>
 
+class AnimatorView;
 class QListWidget;
 
-// The host's pick of groups for a group dialog that was left with "Pick in model": the groups of
-// the model in a list, chosen by click, Ctrl-click, Shift-click or by dragging over them.
+// The host's pick of groups for a group dialog that was left with "Pick in model": in the 3D
+// preview (click, Ctrl-click, a rectangle dragged over them; a right drag turns the model) or in
+// the list of the model's groups beside it. Both show the same pick.
 class GroupPickDialog : public QDialog
 {
     Q_OBJECT
@@ -22,5 +24,9 @@ public:
     static void pickInto(int projectIndex, QWidget* parent);
 
 private:
+    void showPickInList();
+    void showPickInPreview();
+
+    AnimatorView* m_preview;
     QListWidget* m_list;
 };

@@ -185,7 +185,6 @@ int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, Q
             }
         }
         GroupPickDialog pick(projectIndex, &dialog);
-        pick.resize(420, 360);
         pick.show();
         QCoreApplication::processEvents();
         if (!pick.grab().save(QDir(options.screenshots).filePath(QStringLiteral("grouppick.png"))))

@@ -104,8 +104,8 @@
         <translation>Gruppen im Modell wählen</translation>
     </message>
     <message>
-        <source>Choose the groups for the row: click, Ctrl-click, Shift-click, or drag over them.</source>
-        <translation>Wählen Sie die Gruppen der Zeile: Klick, Strg-Klick, Umschalt-Klick, oder mit der Maus darüber ziehen.</translation>
+        <source>Choose the groups for the row in the model: click, Ctrl-click or drag a rectangle over them (a right drag turns the model), or in the list.</source>
+        <translation>Wählen Sie die Gruppen der Zeile im Modell: Klick, Strg-Klick oder ein Rechteck darüber ziehen (Ziehen mit der rechten Maustaste dreht das Modell), oder in der Liste.</translation>
     </message>
 </context>
 </TS>

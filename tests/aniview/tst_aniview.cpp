@@ -91,6 +91,58 @@ private slots:
         }
         QCOMPARE(out, (QStringList{"#edc948 72,128 128,128 128,72 72,72", "L 15,100 185,100",
                                    "#ff9da7 72,128 128,128 128,72 72,72"}));
+        // Picking takes the front-most element, a beam within reach, and whole elements only.
+        QCOMPARE(scene.groupAt({100, 100}), 7);
+        QCOMPARE(scene.groupAt({20, 103}), 1);
+        QCOMPARE(scene.groupAt({20, 110}), -1);
+        QCOMPARE(scene.groupsIn(QRectF(0, 0, 200, 200)), (std::vector<int>{1, 5, 7}));
+        QCOMPARE(scene.groupsIn(QRectF(60, 60, 80, 80)), (std::vector<int>{5, 7}));
+    }
+
+    // Two squares side by side, groups 1 and 2, seen from above in the scratch project: clicks,
+    // Ctrl-clicks and a rectangle pick as a person would.
+    void pick_data()
+    {
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QString>("picked");
+        QTest::newRow("click") << "click 115" << "1";
+        QTest::newRow("click replaces") << "click 115, click 285" << "2";
+        QTest::newRow("ctrl adds") << "click 115, ctrl 285" << "1 2";
+        QTest::newRow("ctrl removes") << "click 115, ctrl 285, ctrl 115" << "2";
+        QTest::newRow("click beside clears") << "click 115, click 5" << "";
+        QTest::newRow("rectangle") << "drag 20 380" << "1 2";
+        QTest::newRow("rectangle over one") << "drag 20 200" << "1";
+        QTest::newRow("ctrl rectangle adds") << "click 285, ctrldrag 20 200" << "1 2";
+    }
+    void pick()
+    {
+        QFETCH(QString, steps);
+        QFETCH(QString, picked);
+        std::vector<NodeRecord> nodes;
+        for (int j = 0; j < 2; ++j)
+            for (int i = 0; i < 3; ++i)
+                nodes.push_back({1 + j * 3 + i, float(i), float(j), 0.0f});
+        writeAll(0, KeyNodes, nodes);
+        writeAll(0, KeyQuads, std::vector<ElementRecord>{{1, 1, {1, 2, 5, 4}}, {2, 2, {2, 3, 6, 5}}});
+        AnimatorView view(0);
+        view.resize(400, 200);
+        view.slotViewControl(AnimatorPlaneXY, 0.0);
+        view.setPickMode(true);
+        view.grab();
+        for (const QString& step : steps.split(QStringLiteral(", "))) {
+            const QStringList w = step.split(QLatin1Char(' '));
+            const auto modifiers = w[0].startsWith(QLatin1String("ctrl")) ? Qt::ControlModifier : Qt::NoModifier;
+            const QPoint from(w[1].toInt(), w[0].endsWith(QLatin1String("drag")) ? 5 : 100);
+            const QPoint to = w.size() > 2 ? QPoint(w[2].toInt(), 195) : from;
+            QTest::mousePress(&view, Qt::LeftButton, modifiers, from);
+            QMouseEvent move(QEvent::MouseMove, to, Qt::LeftButton, Qt::LeftButton, modifiers);
+            QApplication::sendEvent(&view, &move);
+            QTest::mouseRelease(&view, Qt::LeftButton, modifiers, to);
+        }
+        QStringList out;
+        for (int g : view.pickedGroups())
+            out << QString::number(g);
+        QCOMPARE(out.join(QLatin1Char(' ')), picked);
     }
 };
 

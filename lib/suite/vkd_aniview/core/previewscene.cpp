@@ -1,5 +1,7 @@
 #include "previewscene.h"
 
+#include <QPolygonF>
+
 #include <QPainter>
 
 #include <algorithm>
@@ -88,7 +90,7 @@ void PreviewScene::setModel(const std::vector<NodeRecord>& nodes, const std::vec
         return it == slotOf.end() ? -1 : it->second;
     };
     for (const ElementRecord& q : areas) {
-        Element e{DrawItem::Area, 0, {-1, -1, -1, -1}, groupColour(q.group), {}};
+        Element e{DrawItem::Area, 0, {-1, -1, -1, -1}, groupColour(q.group), {}, q.group};
         bool complete = true;
         for (int k = 0; k < 4 && complete; ++k) {
             // A triangle repeats its third node or leaves the fourth empty.
@@ -113,7 +115,7 @@ void PreviewScene::setModel(const std::vector<NodeRecord>& nodes, const std::vec
         ++m_areaCount;
     }
     for (const ElementRecord& b : beams) {
-        Element e{DrawItem::Line, 2, {slot(b.nodes[0]), slot(b.nodes[1]), -1, -1}, groupColour(b.group), {}};
+        Element e{DrawItem::Line, 2, {slot(b.nodes[0]), slot(b.nodes[1]), -1, -1}, groupColour(b.group), {}, b.group};
         if (e.corners[0] < 0 || e.corners[1] < 0)
             continue;
         m_elements.push_back(e);
@@ -215,10 +217,12 @@ const std::vector<DrawItem>& PreviewScene::project(const Camera& camera, QSize v
             item.cornerCount = 1;
             item.corners[0] = m_screen[size_t(-1 - which)];
             item.fill = item.edge = QColor(0x20, 0x20, 0x20);
+            item.group = -1;
             continue;
         }
         const Element& e = m_elements[size_t(which)];
         item.kind = e.kind;
+        item.group = e.group;
         item.cornerCount = e.cornerCount;
         for (int k = 0; k < e.cornerCount; ++k)
             item.corners[k] = m_screen[size_t(e.corners[k])];
@@ -234,6 +238,38 @@ const std::vector<DrawItem>& PreviewScene::project(const Camera& camera, QSize v
         }
     }
     return m_items;
+}
+
+int PreviewScene::groupAt(QPointF point) const
+{
+    // How near a click must come to a beam to hit it, in pixels.
+    constexpr double lineReach = 4.0;
+    for (auto it = m_items.rbegin(); it != m_items.rend(); ++it) {
+        if (it->kind == DrawItem::Area) {
+            if (QPolygonF(QVector<QPointF>(it->corners, it->corners + it->cornerCount)).containsPoint(point, Qt::OddEvenFill))
+                return it->group;
+        } else if (it->kind == DrawItem::Line) {
+            const QPointF a = it->corners[0], d = it->corners[1] - a;
+            const double length2 = QPointF::dotProduct(d, d);
+            const double t = length2 > 0.0 ? std::clamp(QPointF::dotProduct(point - a, d) / length2, 0.0, 1.0) : 0.0;
+            const QPointF nearest = a + d * t - point;
+            if (QPointF::dotProduct(nearest, nearest) <= lineReach * lineReach)
+                return it->group;
+        }
+    }
+    return -1;
+}
+
+std::vector<int> PreviewScene::groupsIn(const QRectF& rect) const
+{
+    std::vector<int> groups;
+    for (const DrawItem& item : m_items)
+        if (item.kind != DrawItem::Point &&
+            std::all_of(item.corners, item.corners + item.cornerCount, [&](QPointF c) { return rect.contains(c); }))
+            groups.push_back(item.group);
+    std::sort(groups.begin(), groups.end());
+    groups.erase(std::unique(groups.begin(), groups.end()), groups.end());
+    return groups;
 }
 
 void PreviewScene::paint(QPainter& painter, const std::vector<DrawItem>& items)

@@ -7,6 +7,7 @@
 
 #include <QColor>
 #include <QPointF>
+#include <QRectF>
 #include <QSize>
 
 #include <vector>
@@ -42,6 +43,8 @@ struct DrawItem
     QPointF corners[4];
     QColor fill;
     QColor edge;
+    // The element's group; -1 for a node.
+    int group = -1;
 };
 
 class PreviewScene
@@ -69,6 +72,12 @@ public:
     // The colour of a group's elements.
     static QColor groupColour(int group);
 
+    // Picking in the last projection: the group of the front-most element at a point (within a
+    // few pixels of a beam), -1 if there is none; the groups of the elements that lie wholly in
+    // a rectangle, in rising order.
+    int groupAt(QPointF point) const;
+    std::vector<int> groupsIn(const QRectF& rect) const;
+
 private:
     struct Element
     {
@@ -77,6 +86,7 @@ private:
         int corners[4];
         QColor colour;
         Vec3 normal; // of an area, unit length
+        int group;
     };
     void finish();
 

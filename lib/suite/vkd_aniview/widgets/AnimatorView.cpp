@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRubberBand>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -17,6 +18,8 @@ constexpr double kTurnPerPixel = 0.5;
 constexpr double kZoomPerNotch = 1.15;
 constexpr double kMinimumZoom = 0.05;
 constexpr double kMaximumZoom = 200.0;
+// A left press that moves less than this many pixels is a click, not a rubber band.
+constexpr int kClickSlack = 3;
 
 Camera fixedView(double azimuth, double elevation)
 {
@@ -54,6 +57,43 @@ void AnimatorView::setCamera(const Camera& camera)
 QString AnimatorView::cameraText(int form) const
 {
     return vkd::dbo::cameraText(m_camera, form);
+}
+
+void AnimatorView::setPickMode(bool on)
+{
+    m_pickMode = on;
+    setCursor(on ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void AnimatorView::setPickedGroups(std::vector<int> groups)
+{
+    std::sort(groups.begin(), groups.end());
+    groups.erase(std::unique(groups.begin(), groups.end()), groups.end());
+    m_picked = std::move(groups);
+    update();
+}
+
+void AnimatorView::finishPick(const QPoint& end, bool adding)
+{
+    std::vector<int> groups;
+    if ((end - m_pickStart).manhattanLength() < kClickSlack) {
+        const int group = m_scene.groupAt(end);
+        if (adding && group >= 0 && std::binary_search(m_picked.begin(), m_picked.end(), group)) {
+            std::vector<int> rest = m_picked;
+            rest.erase(std::lower_bound(rest.begin(), rest.end(), group));
+            setPickedGroups(rest);
+            emit pickChanged();
+            return;
+        }
+        if (group >= 0)
+            groups.push_back(group);
+    } else {
+        groups = m_scene.groupsIn(QRect(m_pickStart, end).normalized());
+    }
+    if (adding)
+        groups.insert(groups.end(), m_picked.begin(), m_picked.end());
+    setPickedGroups(groups);
+    emit pickChanged();
 }
 
 QSize AnimatorView::sizeHint() const
@@ -99,12 +139,33 @@ void AnimatorView::paintEvent(QPaintEvent*)
                          tr("The project holds no model to show."));
     } else {
         painter.setRenderHint(QPainter::Antialiasing, m_scene.areaCount() + m_scene.lineCount() < 2000);
-        vkd::aniview::PreviewScene::paint(painter, m_scene.project(m_camera, size()));
+        const auto& items = m_scene.project(m_camera, size());
+        vkd::aniview::PreviewScene::paint(painter, items);
+        drawPicked(painter, items);
     }
     drawAxes(painter);
     painter.setPen(QColor(0xa0, 0xa0, 0xa0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void AnimatorView::drawPicked(QPainter& painter, const std::vector<vkd::aniview::DrawItem>& items) const
+{
+    if (m_picked.empty())
+        return;
+    const QColor mark(0xff, 0xc0, 0x00);
+    painter.save();
+    painter.setPen(QPen(mark, 2.0));
+    painter.setBrush(QColor(mark.red(), mark.green(), mark.blue(), 110));
+    for (const vkd::aniview::DrawItem& item : items) {
+        if (item.group < 0 || !std::binary_search(m_picked.begin(), m_picked.end(), item.group))
+            continue;
+        if (item.kind == vkd::aniview::DrawItem::Area)
+            painter.drawConvexPolygon(item.corners, item.cornerCount);
+        else if (item.kind == vkd::aniview::DrawItem::Line)
+            painter.drawLine(item.corners[0], item.corners[1]);
+    }
+    painter.restore();
 }
 
 // The global axes in the lower left corner, turned with the model.
@@ -135,6 +196,22 @@ void AnimatorView::drawAxes(QPainter& painter) const
 
 void AnimatorView::mousePressEvent(QMouseEvent* event)
 {
+    if (m_pickMode && event->button() == Qt::LeftButton) {
+        m_pickStart = event->pos();
+        m_picking = true;
+        if (!m_rubberBand)
+            m_rubberBand = new QRubberBand(QRubberBand::Rectangle, this);
+        m_rubberBand->setGeometry(QRect(m_pickStart, QSize()));
+        m_rubberBand->show();
+        event->accept();
+        return;
+    }
+    if (m_pickMode && event->button() == Qt::RightButton) {
+        m_dragButton = Qt::RightButton;
+        m_lastPosition = event->pos();
+        event->accept();
+        return;
+    }
     if (event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton) {
         m_dragButton = event->button();
         m_lastPosition = event->pos();
@@ -146,6 +223,10 @@ void AnimatorView::mousePressEvent(QMouseEvent* event)
 
 void AnimatorView::mouseMoveEvent(QMouseEvent* event)
 {
+    if (m_picking) {
+        m_rubberBand->setGeometry(QRect(m_pickStart, event->pos()).normalized());
+        return;
+    }
     if (m_dragButton == Qt::NoButton || !(event->buttons() & m_dragButton)) {
         QWidget::mouseMoveEvent(event);
         return;
@@ -153,7 +234,7 @@ void AnimatorView::mouseMoveEvent(QMouseEvent* event)
     const QPoint delta = event->pos() - m_lastPosition;
     m_lastPosition = event->pos();
     Camera c = m_camera;
-    if (m_dragButton == Qt::LeftButton) {
+    if (m_dragButton != Qt::MiddleButton) {
         c.azimuth = std::fmod(c.azimuth - delta.x() * kTurnPerPixel, 360.0);
         c.elevation = std::clamp(c.elevation + delta.y() * kTurnPerPixel, -90.0, 90.0);
     } else {
@@ -165,6 +246,12 @@ void AnimatorView::mouseMoveEvent(QMouseEvent* event)
 
 void AnimatorView::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (m_picking && event->button() == Qt::LeftButton) {
+        m_picking = false;
+        m_rubberBand->hide();
+        finishPick(event->pos(), event->modifiers() & Qt::ControlModifier);
+        return;
+    }
     if (event->button() == m_dragButton)
         m_dragButton = Qt::NoButton;
     QWidget::mouseReleaseEvent(event);

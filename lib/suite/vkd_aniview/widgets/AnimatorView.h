@@ -5,6 +5,10 @@
 #include <QPoint>
 #include <QWidget>
 
+#include <vector>
+
+class QRubberBand;
+
 // Commands of the preview. The numbers are what pages send and keep.
 enum AnimatorViewControl : int
 {
@@ -36,6 +40,17 @@ public:
 
     QSize sizeHint() const override;
 
+    // In pick mode a left click picks the group under the mouse, or with Ctrl adds or removes it,
+    // and a left drag picks the groups that lie wholly in its rectangle, or with Ctrl adds them;
+    // a right drag turns the model. Picked groups are drawn marked.
+    void setPickMode(bool on);
+    const std::vector<int>& pickedGroups() const { return m_picked; }
+    void setPickedGroups(std::vector<int> groups);
+
+signals:
+    // The user changed the picked groups.
+    void pickChanged();
+
 public slots:
     // Carries out a command before it returns; value is unused by the commands of today. A
     // camera from the store that does not parse leaves the view as it is.
@@ -52,10 +67,17 @@ protected:
 
 private:
     void drawAxes(QPainter& painter) const;
+    void drawPicked(QPainter& painter, const std::vector<vkd::aniview::DrawItem>& items) const;
+    void finishPick(const QPoint& end, bool adding);
 
     int m_index;
     vkd::aniview::PreviewScene m_scene;
     vkd::dbo::Camera m_camera;
     Qt::MouseButton m_dragButton = Qt::NoButton;
     QPoint m_lastPosition;
+    bool m_pickMode = false;
+    std::vector<int> m_picked;
+    QPoint m_pickStart;
+    bool m_picking = false;
+    QRubberBand* m_rubberBand = nullptr;
 };
