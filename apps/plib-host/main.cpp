@@ -162,7 +162,7 @@ bool saveDesignDialogPictures(PlibHostDialog& dialog, const QDir& folder, QTextS
     return ok;
 }
 
-int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, QTextStream& out, QTextStream& err)
+int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, QTextStream& err)
 {
     int status = ExitOk;
     if (!options.screenshots.isEmpty()) {
@@ -192,12 +192,12 @@ int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, Q
         pick.close();
         if (!saveDesignDialogPictures(dialog, QDir(options.screenshots), err))
             status = ExitFailure;
-        out << "saved pictures of the pages and dialogs to " << QDir(options.screenshots).absolutePath() << '\n';
+        err << "saved pictures of the pages and dialogs to " << QDir(options.screenshots).absolutePath() << '\n';
     }
     if (!options.script.isEmpty()) {
         const QByteArray script = PlibHostDialog::script(dialog.outputPage(), options.englishKeywords).toUtf8();
         if (options.script == QLatin1String("-")) {
-            out.flush();
+            err.flush();
             QFile stdOut;
             stdOut.open(stdout, QIODevice::WriteOnly);
             stdOut.write(script);
@@ -219,7 +219,6 @@ static VKD_QT_InitTranslator g_hostTranslator("plib_host");
 
 int main(int argc, char** argv)
 {
-    QTextStream out(stdout);
     QTextStream err(stderr);
     QStringList args;
     for (int i = 0; i < argc; ++i)
@@ -235,7 +234,7 @@ int main(int argc, char** argv)
             return ExitUsage;
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        out << "No display: running offscreen\n";
+        err << "No display: running offscreen\n";
     }
     // Before the application object: the library installs its German texts when that is made.
     if (options.language != DesktopLanguage)
@@ -254,10 +253,10 @@ int main(int argc, char** argv)
                 err << "plib-host: " << error << '\n';
                 return ExitFailure;
             }
-            out << "created the demo project " << path << '\n';
+            err << "created the demo project " << path << '\n';
         }
     }
-    out.flush();
+    err.flush();
     // A batch run works on a copy in memory: what the pages write while they are built and
     // restored (the default design record of a project without one) stays out of the file.
     VKD_H_ZOBDoc project(path, options.batch() ? VKD_H_ZOBDoc::MemoryCopy : VKD_H_ZOBDoc::OpenExisting);
@@ -270,7 +269,7 @@ int main(int argc, char** argv)
 
     PlibHostDialog dialog(&project, options.englishKeywords);
     if (options.batch())
-        return runBatch(dialog, project.index(), options, out, err);
+        return runBatch(dialog, project.index(), options, err);
 
     // As large as the pages would like, within the screen.
     QSize size = dialog.sizeHint().expandedTo(QSize(1200, 720));
