@@ -33,6 +33,7 @@ public:
     explicit Database(sqlite3* db) : m_db(db) {}
     ~Database()
     {
+        endWalk();
         m_statements.clear();
         if (!sqlite3_get_autocommit(m_db))
             sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
@@ -47,12 +48,43 @@ public:
         auto& slot = m_statements[sql];
         if (!slot)
             slot = std::make_unique<Statement>();
-        if (!slot->stmt && sqlite3_prepare_v3(m_db, sql, -1, SQLITE_PREPARE_PERSISTENT, &slot->stmt, nullptr) != SQLITE_OK)
+        if (!slot->stmt &&
+            sqlite3_prepare_v3(m_db, sql, -1, SQLITE_PREPARE_PERSISTENT, &slot->stmt, nullptr) != SQLITE_OK)
             return nullptr;
         sqlite3_reset(slot->stmt);
         sqlite3_clear_bindings(slot->stmt);
         return slot->stmt;
     }
+
+    // Readers walk a key pair position by position. The walk after its first two steps is
+    // served by one cursor in position order instead of a lookup per position. Any other
+    // call on the database ends the walk first, so that an open cursor never sees a change of
+    // this connection nor keeps its snapshot beyond the walk.
+    struct Walk
+    {
+        int key1 = 0;
+        int key2 = 0;
+        int lastPosition = -1; // -1: no walk
+        sqlite3_stmt* cursor = nullptr;
+    };
+    Walk walk;
+    void endWalk()
+    {
+        if (walk.cursor)
+            sqlite3_reset(walk.cursor);
+        walk = Walk();
+    }
+
+    // Inside a transaction of this connection no one else writes, so the next free position of
+    // the key pair last appended to holds until the transaction ends.
+    struct Append
+    {
+        int key1 = 0;
+        int key2 = 0;
+        int nextPos = -1; // -1: not known
+    };
+    Append append;
+    void forgetAppend() { append = Append(); }
 
 private:
     sqlite3* m_db;
@@ -79,8 +111,8 @@ bool execScript(sqlite3* db, const char* sql)
 std::shared_ptr<Database> openScratch()
 {
     sqlite3* db = nullptr;
-    if (sqlite3_open_v2(":memory:", &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) != SQLITE_OK
-        || !execScript(db, kSchema)) {
+    if (sqlite3_open_v2(":memory:", &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) != SQLITE_OK ||
+        !execScript(db, kSchema)) {
         sqlite3_close(db);
         return nullptr;
     }
@@ -114,10 +146,10 @@ int queryInt(sqlite3* db, const char* sql, int fallback)
 
 bool hasProjectTables(sqlite3* db)
 {
-    return queryInt(db,
-                    "SELECT count(*) FROM sqlite_master WHERE type='table' AND name IN ('zob_key','zob_record')",
-                    0)
-           == 2;
+    return queryInt(
+               db,
+               "SELECT count(*) FROM sqlite_master WHERE type='table' AND name IN ('zob_key','zob_record')",
+               0) == 2;
 }
 
 zob_status_t stepStatus(int rc)
@@ -198,8 +230,8 @@ int vkd_zob_open(const QString& path, bool create, QString* error)
             sqlite3_stmt* st = nullptr;
             if (sqlite3_prepare_v2(db, "PRAGMA quick_check", -1, &st, nullptr) != SQLITE_OK)
                 problem = QString::fromUtf8(sqlite3_errmsg(db));
-            else if (sqlite3_step(st) != SQLITE_ROW
-                     || qstrcmp(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)), "ok") != 0)
+            else if (sqlite3_step(st) != SQLITE_ROW ||
+                     qstrcmp(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)), "ok") != 0)
                 problem = QStringLiteral("the integrity check failed");
             sqlite3_finalize(st);
         }
@@ -208,8 +240,8 @@ int vkd_zob_open(const QString& path, bool create, QString* error)
             return fail(QStringLiteral("The project file %1 is damaged: %2.").arg(path, problem));
         }
     } else {
-        const QByteArray init = QByteArray("PRAGMA application_id=") + QByteArray::number(kApplicationId)
-                                + ";PRAGMA journal_mode=WAL;BEGIN;" + kSchema + "COMMIT;";
+        const QByteArray init = QByteArray("PRAGMA application_id=") + QByteArray::number(kApplicationId) +
+                                ";PRAGMA journal_mode=WAL;BEGIN;" + kSchema + "COMMIT;";
         if (!execScript(db, init.constData())) {
             const QString msg = QString::fromUtf8(sqlite3_errmsg(db));
             sqlite3_close(db);
@@ -244,6 +276,32 @@ zob_status_t vkd_zob_get(int index, int key1, int key2, void* record, int* lengt
     Database* d = database(index);
     if (!d)
         return ZOB_NO_DATABASE;
+    Database::Walk& walk = d->walk;
+    const bool continues =
+        walk.lastPosition >= 0 && walk.key1 == key1 && walk.key2 == key2 && position == walk.lastPosition + 1;
+    if (!continues)
+        d->endWalk();
+    if (continues && !walk.cursor) {
+        walk.cursor = d->statement("SELECT pos, data FROM zob_record WHERE key1=?1 AND key2=?2 AND pos>=?3"
+                                   " ORDER BY pos");
+        if (walk.cursor) {
+            sqlite3_bind_int(walk.cursor, 1, key1);
+            sqlite3_bind_int(walk.cursor, 2, key2);
+            sqlite3_bind_int(walk.cursor, 3, position);
+        }
+    }
+    if (continues && walk.cursor) {
+        if (sqlite3_step(walk.cursor) == SQLITE_ROW && sqlite3_column_int(walk.cursor, 0) == position) {
+            const int size = sqlite3_column_bytes(walk.cursor, 1);
+            const int copied = qMin(size, *length);
+            if (copied > 0)
+                std::memcpy(record, sqlite3_column_blob(walk.cursor, 1), size_t(copied));
+            *length = copied;
+            walk.lastPosition = position;
+            return size > copied ? ZOB_TRUNCATED : ZOB_OK;
+        }
+        d->endWalk(); // the end, a gap or an error: the lookup below tells which
+    }
     sqlite3_stmt* st = d->statement("SELECT data FROM zob_record WHERE key1=?1 AND key2=?2 AND pos=?3");
     if (!st)
         return ZOB_FAILED;
@@ -258,6 +316,9 @@ zob_status_t vkd_zob_get(int index, int key1, int key2, void* record, int* lengt
             std::memcpy(record, sqlite3_column_blob(st, 0), size_t(copied));
         *length = copied;
         sqlite3_reset(st);
+        walk.key1 = key1;
+        walk.key2 = key2;
+        walk.lastPosition = position;
         return size > copied ? ZOB_TRUNCATED : ZOB_OK;
     }
     sqlite3_reset(st);
@@ -273,15 +334,24 @@ zob_status_t vkd_zob_put(int index, int key1, int key2, const void* record, cons
     Database* d = database(index);
     if (!d)
         return ZOB_NO_DATABASE;
+    d->endWalk();
     // Several statements: outside a lock they still have to land together.
     sqlite3* db = d->handle();
     const bool ownTransaction = sqlite3_get_autocommit(db);
-    if (ownTransaction && !execScript(db, "BEGIN IMMEDIATE"))
-        return sqlite3_errcode(db) == SQLITE_BUSY ? ZOB_BUSY : ZOB_FAILED;
+    if (ownTransaction) {
+        d->forgetAppend();
+        if (!execScript(db, "BEGIN IMMEDIATE"))
+            return sqlite3_errcode(db) == SQLITE_BUSY ? ZOB_BUSY : ZOB_FAILED;
+    }
 
-    zob_status_t status = markKey(d, key1, key2);
+    Database::Append& append = d->append;
+    const bool appendKnown =
+        position == 1 && append.nextPos >= 0 && append.key1 == key1 && append.key2 == key2;
+    zob_status_t status = appendKnown ? ZOB_OK : markKey(d, key1, key2);
     int nextPos = 0;
-    if (status == ZOB_OK && position == 0) {
+    if (appendKnown) {
+        nextPos = append.nextPos; // the key pair was marked by the append before
+    } else if (status == ZOB_OK && position == 0) {
         sqlite3_stmt* del = d->statement("DELETE FROM zob_record WHERE key1=?1 AND key2=?2");
         if (!del) {
             status = ZOB_FAILED;
@@ -304,7 +374,8 @@ zob_status_t vkd_zob_put(int index, int key1, int key2, const void* record, cons
         }
     }
     if (status == ZOB_OK && (*length > 0 || position == 1)) {
-        sqlite3_stmt* ins = d->statement("INSERT INTO zob_record(key1, key2, pos, data) VALUES(?1, ?2, ?3, ?4)");
+        sqlite3_stmt* ins =
+            d->statement("INSERT INTO zob_record(key1, key2, pos, data) VALUES(?1, ?2, ?3, ?4)");
         if (!ins) {
             status = ZOB_FAILED;
         } else {
@@ -315,6 +386,15 @@ zob_status_t vkd_zob_put(int index, int key1, int key2, const void* record, cons
             status = stepStatus(sqlite3_step(ins));
             sqlite3_reset(ins);
         }
+        if (status == ZOB_OK)
+            ++nextPos;
+    }
+    if (ownTransaction || status != ZOB_OK || sqlite3_get_autocommit(db)) {
+        d->forgetAppend();
+    } else {
+        append.key1 = key1;
+        append.key2 = key2;
+        append.nextPos = nextPos;
     }
     if (ownTransaction)
         execScript(db, status == ZOB_OK ? "COMMIT" : "ROLLBACK");
@@ -326,8 +406,10 @@ zob_status_t vkd_zob_lock_ex(int index, int, int)
     Database* d = database(index);
     if (!d)
         return ZOB_NO_DATABASE;
+    d->endWalk();
     if (!sqlite3_get_autocommit(d->handle()))
         return ZOB_OK; // already inside this program's own write transaction
+    d->forgetAppend();
     if (execScript(d->handle(), "BEGIN IMMEDIATE"))
         return ZOB_OK;
     return sqlite3_errcode(d->handle()) == SQLITE_BUSY ? ZOB_BUSY : ZOB_FAILED;
@@ -336,7 +418,11 @@ zob_status_t vkd_zob_lock_ex(int index, int, int)
 void vkd_zob_free_ex(int index, int, int)
 {
     Database* d = database(index);
-    if (d && !sqlite3_get_autocommit(d->handle()))
+    if (!d)
+        return;
+    d->endWalk();
+    d->forgetAppend();
+    if (!sqlite3_get_autocommit(d->handle()))
         execScript(d->handle(), "COMMIT");
 }
 
@@ -346,10 +432,13 @@ void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode)
         return;
     Database* d = database(index);
     sqlite3_stmt* st = nullptr;
-    if (d)
-        st = d->statement(mode == 1 ? "SELECT key1, key2 FROM zob_record WHERE key1=?1 AND key2>=?2 AND pos=0"
-                                      " ORDER BY key2 LIMIT 1"
-                                    : "SELECT key1, key2 FROM zob_record WHERE key1=?1 AND key2=?2 AND pos=0");
+    if (d) {
+        d->endWalk();
+        st =
+            d->statement(mode == 1 ? "SELECT key1, key2 FROM zob_record WHERE key1=?1 AND key2>=?2 AND pos=0"
+                                     " ORDER BY key2 LIMIT 1"
+                                   : "SELECT key1, key2 FROM zob_record WHERE key1=?1 AND key2=?2 AND pos=0");
+    }
     if (st) {
         sqlite3_bind_int(st, 1, *key1);
         sqlite3_bind_int(st, 2, *key2);
@@ -370,6 +459,7 @@ int vkd_zob_count(int index, int key1, int key2)
     Database* d = database(index);
     if (!d)
         return 0;
+    d->endWalk();
     sqlite3_stmt* st = d->statement("SELECT count(*) FROM zob_record WHERE key1=?1 AND key2=?2");
     if (!st)
         return 0;
