@@ -122,10 +122,11 @@ public:
         report(c.operation, c.size, c.baseline, median(ours), median(bare), "ms", c.target);
     }
 
-    // A figure measured otherwise, such as memory.
+    // A figure measured otherwise, such as memory; runs 0 means as many as compare() makes.
     void report(const QString& operation, const QString& size, const QString& baseline, double ours,
-                double bare, const char* unit, double target)
+                double bare, const char* unit, double target, int runs = 0)
     {
+        runs = runs > 0 ? runs : m_runs;
         const double ratio = bare > 0.0 ? ours / bare : 0.0;
         const bool met = target <= 0.0 || ratio <= target;
         if (m_json) {
@@ -134,7 +135,7 @@ public:
                         "\"met\":%s,\"runs\":%d,\"quick\":%s}\n",
                         m_benchmark, jsonText(operation).constData(), jsonText(size).constData(),
                         jsonText(baseline).constData(), unit, ours, bare, ratio, target,
-                        met ? "true" : "false", m_runs, m_quick ? "true" : "false");
+                        met ? "true" : "false", runs, m_quick ? "true" : "false");
         } else {
             if (!m_headerPrinted) {
                 std::printf("%-36s %-24s %11s %11s %6s %7s  %s\n", m_benchmark, "size", "ours", "baseline",
