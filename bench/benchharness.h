@@ -16,6 +16,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <malloc.h>
 #include <utility>
 #include <vector>
 
@@ -114,9 +115,11 @@ public:
         for (int run = 0; run < m_runs; ++run) {
             if (c.prepareOurs)
                 c.prepareOurs();
+            settleHeap();
             ours.push_back(milliseconds(c.ours));
             if (c.prepareBare)
                 c.prepareBare();
+            settleHeap();
             bare.push_back(milliseconds(c.bare));
         }
         report(c.operation, c.size, c.baseline, median(ours), median(bare), "ms", c.target);
@@ -160,6 +163,10 @@ public:
     }
 
 private:
+    // glibc merges freed small blocks only when a large one is asked for next: without this,
+    // what the run before freed would be paid for by the run timed now.
+    static void settleHeap() { malloc_trim(0); }
+
     static QByteArray jsonText(const QString& text)
     {
         QByteArray out;
