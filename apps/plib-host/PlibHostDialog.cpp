@@ -11,6 +11,7 @@
 #include <VKD_QT_Ok.h>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QDir>
@@ -164,12 +165,25 @@ QString PlibHostDialog::scriptPath(const VKD_P_WidgetGraphicalOutput* page) cons
 
 bool PlibHostDialog::save(QString* error)
 {
+    // The design records and both pages land together or not at all. The pages do not look
+    // at the results of their writes; the document keeps the first failure. Waiting for
+    // another program that holds the project shows the busy cursor, up to the busy timeout.
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    m_project->beginWrite();
     m_design->setEntrys(m_designEntries);
     m_designEntries.save(m_project->index());
     m_pageStates.setEntry(outputStateKey, m_output->writeXMLstring());
     m_pageStates.setEntry(splitStateKey, m_split->writeXMLstring());
     m_pageStates.setEntry(loadCaseStateKey, m_loadCases->stateText());
     m_pageStates.save(m_project->index());
+    m_project->endWrite();
+    QApplication::restoreOverrideCursor();
+    const QString failure = m_project->lastWriteError();
+    if (!failure.isEmpty()) {
+        *error = failure + QStringLiteral("\n\n") +
+                 tr("Nothing was saved. The dialog stays open so that nothing you entered is lost.");
+        return false;
+    }
 
     for (VKD_P_WidgetGraphicalOutput* page : {m_output, m_split}) {
         QSaveFile file(scriptPath(page));

@@ -4,13 +4,14 @@
 // first if there is none. --script and --screenshots run without a window: the pages are built
 // and restored from the project, the script is written to FILE ("-": standard output) and a
 // picture of each page is saved into DIR; the project is not written.
+#include "GroupPickDialog.h"
 #include "PlibHostDialog.h"
 
 #include <VKD_H_ZOBDoc.h>
+#include <VKD_P_DesignParameter.h>
 #include <VKD_QT_InitTranslator.h>
 #include <VKD_QT_MessageBox.h>
-#include <demomodel.h>
-#include <design.h>
+#include <newproject.h>
 #include <vkd_q.h>
 
 #include <QApplication>
@@ -19,7 +20,10 @@
 #include <QLibraryInfo>
 #include <QSaveFile>
 #include <QScreen>
+#include <QAbstractButton>
 #include <QTabWidget>
+#include <QTableWidget>
+#include <QTimer>
 #include <QTextStream>
 #include <QTranslator>
 
@@ -27,6 +31,8 @@ namespace {
 
 // What scripts that call the host can tell apart.
 enum ExitStatus : int { ExitOk = 0, ExitCancelled = 1, ExitUsage = 2, ExitFailure = 3 };
+// What a group dialog closes the host's dialog with to let the user pick groups in the model.
+constexpr int pickInModel = 6;
 enum Language : int { German = 0, English = 1, DesktopLanguage = -1 };
 constexpr int languageSetting = 102;
 
@@ -96,18 +102,6 @@ bool hasDisplay()
            !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
-bool createDemoProject(const QString& path, QTextStream& err)
-{
-    VKD_H_ZOBDoc doc(path, VKD_H_ZOBDoc::OpenOrCreate);
-    if (!doc.isValid()) {
-        err << "plib-host: " << doc.errorString() << '\n';
-        return false;
-    }
-    writeDemoModel(doc.index());
-    writeDemoDesign(doc);
-    return true;
-}
-
 // Qt's own texts (message box buttons, file dialogs) in the language of the desktop.
 void installQtTranslation(QCoreApplication& app)
 {
@@ -118,7 +112,57 @@ void installQtTranslation(QCoreApplication& app)
         QCoreApplication::installTranslator(qt);
 }
 
-int runBatch(PlibHostDialog& dialog, const Options& options, QTextStream& out, QTextStream& err)
+// Opens a dialog by a click and saves a picture of it once it is up; false if it did not come
+// up or the picture could not be written.
+bool saveDialogPicture(QAbstractButton* opener, const QString& file)
+{
+    bool saved = false;
+    bool shown = false;
+    QTimer::singleShot(0, [&] {
+        if (QWidget* modal = QApplication::activeModalWidget()) {
+            shown = true;
+            saved = modal->grab().save(file);
+            modal->close();
+        }
+    });
+    opener->click();
+    return shown && saved;
+}
+
+// Pictures of the design page's dialogs, opened from the cells of its first row of design.
+bool saveDesignDialogPictures(PlibHostDialog& dialog, const QDir& folder, QTextStream& err)
+{
+    dialog.tabWidget()->setCurrentWidget(dialog.designPage());
+    auto* table = dialog.designPage()->findChild<QTableWidget*>();
+    if (!table || table->rowCount() < 2)
+        return true;
+    const struct
+    {
+        int column;
+        const char* button;
+        const char* file;
+    } dialogs[] = {{0, "buttonGroups", "groups.png"},
+                   {0, "buttonSekGroups", "secondarygroups.png"},
+                   {2, "cellButton", "directiondistance.png"},
+                   {3, "cellButton", "reinforcement.png"},
+                   {4, "cellButton", "crackcontrol.png"}};
+    bool ok = true;
+    for (const auto& d : dialogs) {
+        table->setCurrentCell(1, d.column);
+        QCoreApplication::processEvents();
+        QWidget* cell = table->cellWidget(1, d.column);
+        auto* opener = cell ? cell->findChild<QAbstractButton*>(QLatin1String(d.button)) : nullptr;
+        const QString file = folder.filePath(QLatin1String(d.file));
+        if (opener && opener->isEnabled() && !saveDialogPicture(opener, file)) {
+            err << "plib-host: cannot write " << file << '\n';
+            ok = false;
+        }
+    }
+    table->setCurrentCell(-1, -1);
+    return ok;
+}
+
+int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, QTextStream& out, QTextStream& err)
 {
     int status = ExitOk;
     if (!options.screenshots.isEmpty()) {
@@ -140,7 +184,16 @@ int runBatch(PlibHostDialog& dialog, const Options& options, QTextStream& out, Q
                 status = ExitFailure;
             }
         }
-        out << "saved pictures of the pages to " << QDir(options.screenshots).absolutePath() << '\n';
+        GroupPickDialog pick(projectIndex, &dialog);
+        pick.resize(420, 360);
+        pick.show();
+        QCoreApplication::processEvents();
+        if (!pick.grab().save(QDir(options.screenshots).filePath(QStringLiteral("grouppick.png"))))
+            status = ExitFailure;
+        pick.close();
+        if (!saveDesignDialogPictures(dialog, QDir(options.screenshots), err))
+            status = ExitFailure;
+        out << "saved pictures of the pages and dialogs to " << QDir(options.screenshots).absolutePath() << '\n';
     }
     if (!options.script.isEmpty()) {
         const QByteArray script = PlibHostDialog::script(dialog.outputPage(), options.englishKeywords).toUtf8();
@@ -196,14 +249,19 @@ int main(int argc, char** argv)
     QString path = options.project;
     if (path.isEmpty()) {
         path = QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../demo.vkd")));
+        QString error;
         if (!QFile::exists(path)) {
-            if (!createDemoProject(path, err))
+            if (!createDemoProject(path, &error)) {
+                err << "plib-host: " << error << '\n';
                 return ExitFailure;
+            }
             out << "created the demo project " << path << '\n';
         }
     }
     out.flush();
-    VKD_H_ZOBDoc project(path, VKD_H_ZOBDoc::OpenExisting);
+    // A batch run works on a copy in memory: what the pages write while they are built and
+    // restored (the default design record of a project without one) stays out of the file.
+    VKD_H_ZOBDoc project(path, options.batch() ? VKD_H_ZOBDoc::MemoryCopy : VKD_H_ZOBDoc::OpenExisting);
     if (!project.isValid()) {
         err << "plib-host: " << project.errorString() << '\n';
         if (!options.batch())
@@ -213,12 +271,17 @@ int main(int argc, char** argv)
 
     PlibHostDialog dialog(&project, options.englishKeywords);
     if (options.batch())
-        return runBatch(dialog, options, out, err);
+        return runBatch(dialog, project.index(), options, out, err);
 
     // As large as the pages would like, within the screen.
     QSize size = dialog.sizeHint().expandedTo(QSize(1200, 720));
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         size = size.boundedTo(screen->availableSize() * 9 / 10);
     dialog.resize(size);
-    return dialog.exec() == QDialog::Accepted ? ExitOk : ExitCancelled;
+    int result;
+    // A group dialog of the design page leaves the dialog for a pick in the model and comes back
+    // when the dialog is shown again.
+    while ((result = dialog.exec()) == pickInModel)
+        GroupPickDialog::pickInto(project.index(), nullptr);
+    return result == QDialog::Accepted ? ExitOk : ExitCancelled;
 }

@@ -31,6 +31,10 @@
         <source>The script could not be written to %1: %2. The project was saved.</source>
         <translation>Das Skript konnte nicht nach %1 geschrieben werden: %2. Das Projekt wurde gespeichert.</translation>
     </message>
+    <message>
+        <source>Nothing was saved. The dialog stays open so that nothing you entered is lost.</source>
+        <translation>Es wurde nichts gespeichert. Der Dialog bleibt offen, damit nichts von Ihren Eingaben verloren geht.</translation>
+    </message>
 </context>
 <context>
     <name>LoadCasePage</name>
@@ -91,6 +95,17 @@
             <numerusform>%n Zeile</numerusform>
             <numerusform>%n Zeilen</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>GroupPickDialog</name>
+    <message>
+        <source>Pick Groups in the Model</source>
+        <translation>Gruppen im Modell wählen</translation>
+    </message>
+    <message>
+        <source>Choose the groups for the row: click, Ctrl-click, Shift-click, or drag over them.</source>
+        <translation>Wählen Sie die Gruppen der Zeile: Klick, Strg-Klick, Umschalt-Klick, oder mit der Maus darüber ziehen.</translation>
     </message>
 </context>
 </TS>

@@ -567,7 +567,7 @@ private slots:
         QTest::newRow("-1 among others") << Groups{-1, 4} << "-1;4";
         QTest::newRow("another negative alone") << Groups{-5} << "-5";
         QTest::newRow("999999 is a number") << Groups{999999} << "999999";
-        QTest::newRow("1000000 is a name") << Groups{1000000} << QString::fromLatin1("@B\x0F");
+        QTest::newRow("1000000 is a name") << Groups{1000000} << QStringLiteral("@B\\x0f");
         QTest::newRow("blanks around a name go") << Groups{packed(' ', 'S', ' ', ' '), 2} << "S;2";
         QTest::newRow("zero byte ends the name") << Groups{packed('A', 'B', 0, 'C')} << "AB";
         QTest::newRow("four characters") << Groups{packed('W', 'A', 'L', 'L')} << "WALL";
@@ -631,6 +631,7 @@ private slots:
         const QString demo = m_dir.filePath(QStringLiteral("demo.vkd")), odd = m_doc->path();
         QCOMPARE(runTool(QStringLiteral("create"), demo), QStringLiteral("created %1\n").arg(demo));
         QVERIFY(matchesReference(runTool(QStringLiteral("design"), demo), QStringLiteral("demo-design.txt")));
+        QVERIFY(matchesReference(runTool(QStringLiteral("model"), demo), QStringLiteral("demo-model.txt")));
         m_doc.reset();
         QString out = runTool(QStringLiteral("design"), odd);
         {

@@ -677,7 +677,7 @@ void TestDesignPage::hostCommandLine_data()
     QTest::addColumn<int>("exitCode");
     QTest::addColumn<QString>("output");
     QTest::newRow("pictures of a project")
-        << QStringList{"--lang", "de", "--screenshots", "shots", "project.vkd"} << 0 << "saved pictures of the pages";
+        << QStringList{"--lang", "de", "--screenshots", "shots", "project.vkd"} << 0 << "saved pictures of the pages and dialogs";
     QTest::newRow("script to standard output")
         << QStringList{"--script-language", "de", "--script", "-", "project.vkd"} << 0 << "\nSTEU LEER JA";
     QTest::newRow("unknown language")

@@ -45,11 +45,10 @@ void useCatalogue()
     catalogueLanguage = vkd_lib_getvalue(102);
 }
 
-// Models of a page's project: none, one quad, one bric, the demo project.
+// Models of a page's project: none, one bric, the demo project.
 enum Model : int
 {
     NoModel = 0,
-    OneQuad = vkd::dbo::KeyQuads,
     OneBric = vkd::dbo::KeyBricks,
     Demo = -1
 };
@@ -174,8 +173,6 @@ private slots:
     void init() { useCatalogue(); }
     void widgets_data();
     void widgets();
-    void isoAreas_data();
-    void isoAreas();
     void defaultSettings();
     void splitVariant();
     void pageSplitIcons_data();
@@ -218,26 +215,12 @@ void TestOutputPage::widgets()
     QVERIFY(p.page->checkVals());
 }
 
-void TestOutputPage::isoAreas_data()
-{
-    QTest::addColumn<int>("model");
-    QTest::addColumn<bool>("enabled");
-    QTest::newRow("neither quads nor brics") << int(NoModel) << false;
-    QTest::newRow("quads") << int(OneQuad) << true;
-    QTest::newRow("brics only") << int(OneBric) << true;
-}
-
-void TestOutputPage::isoAreas()
-{
-    QFETCH(int, model);
-    QFETCH(bool, enabled);
-    QCOMPARE(Page(1, model).get<VKD_QT_CheckBox>("Check: Filled Isolines")->isEnabled(), enabled);
-}
-
-// The defaults come back everywhere but in the scale list, and the tree takes its default choice.
+// Iso areas with brics but no quads. The defaults come back everywhere but in the scale list, and
+// the tree takes its default choice.
 void TestOutputPage::defaultSettings()
 {
-    Page p;
+    Page p(GraphicalOutputStandard, OneBric);
+    QVERIFY(p.get<VKD_QT_CheckBox>("Check: Filled Isolines")->isEnabled());
     p.page->setUsedNumbersAndNames({{1, 1, "r1"}, {1, 2, "r2"}});
     auto* scale = p.get<VKD_QT4_ComboBox>("box_scale");
     p.group("ScaleGroup")->getRadioButton(0)->click();
@@ -470,6 +453,7 @@ void TestOutputPage::demoProject()
     catalogueList().clear();
     catalogueLanguage = -1;
     Page p(GraphicalOutputStandard, Demo);
+    QVERIFY(p.get<VKD_QT_CheckBox>("Check: Filled Isolines")->isEnabled());
     std::vector<LoadcaseInformation> rows;
     for (const auto& lc : vkd::dbo::readAll<vkd::dbo::LoadCaseRecord>(p.doc.index(), vkd::dbo::KeyLoadCases))
         rows.push_back({lc.kind == 4 ? 2 : 1, lc.number,

@@ -1,6 +1,5 @@
 #include <VKD_H_BoxedLineEdit.h>
 #include <VKD_H_TableWidget.h>
-#include <VKD_H_TwSimpleItems.h>
 #include <VKD_QT_RadioButtonGroup.h>
 #include <vkd_h_fieldcheck.h>
 
@@ -122,10 +121,6 @@ void TestSettingsWidgets::rowCountSignal()
     for (const QList<QVariant>& c : counts)
         seen << QStringLiteral("%1>%2").arg(c.at(0).toInt()).arg(c.at(1).toInt());
     QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("2>3 3>6 6>5 5>0"));
-    VKD_H_TwSimpleCheckBoxItem check(true);
-    QVERIFY(check.isChecked());
-    check.setCheckState(Qt::PartiallyChecked);
-    QVERIFY(!check.isChecked());
 }
 
 QTEST_MAIN(TestSettingsWidgets)

@@ -1,6 +1,6 @@
-// Draws the figures of the library's two resource blocks, and with a second folder the icons
-// of the suite's widget layer. Run it by hand after a change of a figure and commit the PNGs
-// it writes:  drawfigures <folder> [<icon folder>]
+// Draws the figures of the library's two resource blocks, and with a second folder the
+// numbered icons of the widget layer. Run it by hand after a change of a figure and commit the
+// PNGs it writes:  drawfigures <folder> [<icon folder>]
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
@@ -390,6 +390,88 @@ struct Figure
     std::function<void(QPainter&, QSize)> draw;
 };
 
+// Icons of the widget layer: <number>.png at 32 pixels and <number>@2x.png at 64, each drawn
+// at its own size so that both are sharp.
+const QColor kGroupFill(0x3a, 0x7b, 0xc8);
+const QColor kSecondaryFill(0xe0, 0x8a, 0x1e);
+
+// A mesh of 3 x 3 quads on a 32-unit square with the L of five picked ones filled: a group.
+void drawGroupIcon(QPainter& p)
+{
+    const double x0 = 3, y0 = 3, step = 26.0 / 3;
+    p.setPen(Qt::NoPen);
+    p.setBrush(kGroupFill);
+    const int picked[][2] = {{0, 0}, {0, 1}, {0, 2}, {1, 2}, {2, 2}};
+    for (const auto& q : picked)
+        p.drawRect(QRectF(x0 + q[0] * step, y0 + q[1] * step, step, step));
+    p.setPen(QPen(kInk, 1.6));
+    p.setBrush(Qt::NoBrush);
+    for (int i = 0; i <= 3; ++i) {
+        p.drawLine(QPointF(x0 + i * step, y0), QPointF(x0 + i * step, y0 + 26));
+        p.drawLine(QPointF(x0, y0 + i * step), QPointF(x0 + 26, y0 + i * step));
+    }
+}
+
+// A label tag with a hole and two lines of writing: a group known by its name.
+void drawSecondaryGroupIcon(QPainter& p)
+{
+    QPainterPath tag;
+    tag.moveTo(3, 16);
+    tag.lineTo(11, 6);
+    tag.lineTo(29, 6);
+    tag.lineTo(29, 26);
+    tag.lineTo(11, 26);
+    tag.closeSubpath();
+    p.setPen(QPen(kInk, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setBrush(kSecondaryFill);
+    p.drawPath(tag);
+    p.setBrush(Qt::white);
+    p.drawEllipse(QPointF(10, 16), 2.2, 2.2);
+    p.setPen(QPen(Qt::white, 2.4, Qt::SolidLine, Qt::RoundCap));
+    p.drawLine(QPointF(16, 13), QPointF(26, 13));
+    p.drawLine(QPointF(16, 19), QPointF(23, 19));
+}
+
+bool saveIcon(const QImage& image, const QDir& out, const QString& name)
+{
+    if (image.save(out.filePath(name)))
+        return true;
+    std::fprintf(stderr, "cannot write %s\n", qPrintable(name));
+    return false;
+}
+
+// Icons have no background, so that they sit on any button.
+bool drawIcons(const QDir& out)
+{
+    const struct
+    {
+        int number;
+        void (*draw)(QPainter&);
+    } icons[] = {{2125, drawGroupIcon}, {2126, drawSecondaryGroupIcon}};
+    for (const auto& icon : icons) {
+        for (int scale = 1; scale <= 2; ++scale) {
+            QImage image(32 * scale, 32 * scale, QImage::Format_ARGB32);
+            image.fill(Qt::transparent);
+            QPainter p(&image);
+            p.setRenderHint(QPainter::Antialiasing);
+            p.scale(scale, scale);
+            icon.draw(p);
+            p.end();
+            const QString name = QString::number(icon.number) +
+                                 (scale == 2 ? QStringLiteral("@2x.png") : QStringLiteral(".png"));
+            if (!saveIcon(image, out, name))
+                return false;
+        }
+    }
+    QImage calculator(32, 32, QImage::Format_ARGB32);
+    calculator.fill(Qt::transparent);
+    QPainter p(&calculator);
+    p.setRenderHint(QPainter::Antialiasing);
+    drawCalculator(p, calculator.size());
+    p.end();
+    return saveIcon(calculator, out, QStringLiteral("calculator.png"));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -448,22 +530,5 @@ int main(int argc, char** argv)
             return 1;
         }
     }
-    if (argc == 3) {
-        // Icons have no background, so that they sit on any button.
-        const QDir icons(QString::fromLocal8Bit(argv[2]));
-        const Figure iconFigures[] = {{"calculator.png", {32, 32}, drawCalculator}};
-        for (const Figure& f : iconFigures) {
-            QImage image(f.size, QImage::Format_ARGB32);
-            image.fill(Qt::transparent);
-            QPainter p(&image);
-            p.setRenderHint(QPainter::Antialiasing);
-            f.draw(p, f.size);
-            p.end();
-            if (!image.save(icons.filePath(QString::fromLatin1(f.name)))) {
-                std::fprintf(stderr, "cannot write %s\n", f.name);
-                return 1;
-            }
-        }
-    }
-    return 0;
+    return argc == 3 && !drawIcons(QDir(QString::fromLocal8Bit(argv[2]))) ? 1 : 0;
 }

@@ -33,7 +33,7 @@ QString groupText(int32_t group)
     if (group == -1)
         return QStringLiteral("-1 (remaining groups)");
     if (group >= 1000000)
-        return QStringLiteral("%1 (secondary group %2)").arg(group).arg(secondaryGroupName(group));
+        return QStringLiteral("%1 (secondary group %2)").arg(group).arg(vkd::dbo::secondaryGroupName(group));
     return QString::number(group);
 }
 

@@ -53,5 +53,30 @@
     <message><source>Reinforcement</source><translation>Bewehrung</translation></message>
     <message><source> cm²</source><translation> cm²</translation></message>
     <message><source>no bar chosen</source><translation>kein Stab gewählt</translation></message>
+    <name>VKD_H_GroupListDialog</name>
+    <message><source>Filter by number, name or title</source><translation>Nach Nummer, Name oder Titel filtern</translation></message>
+    <message><source>Name</source><translation>Name</translation></message>
+    <message><source>Group</source><translation>Gruppe</translation></message>
+    <message><source>Title</source><translation>Titel</translation></message>
+    <message><source>Note</source><translation>Hinweis</translation></message>
+    <message><source>used in another row</source><translation>in einer anderen Zeile verwendet</translation></message>
+    <message><source>secondary group</source><translation>Sekundärgruppe</translation></message>
+    <message><source>group, not secondary</source><translation>Gruppe, keine Sekundärgruppe</translation></message>
+    <message><source>not in the model</source><translation>nicht im Modell</translation></message>
+    <message><source>Select all</source><translation>Alle auswählen</translation></message>
+    <message><source>Select none</source><translation>Keine auswählen</translation></message>
+    <message><source>Ticks the groups the filter shows</source><translation>Hakt die Gruppen an, die der Filter zeigt</translation></message>
+    <message><source>Unticks the groups the filter shows</source><translation>Entfernt die Haken der Gruppen, die der Filter zeigt</translation></message>
+    <message><source>%1 of %2 checked</source><translation>%1 von %2 ausgewählt</translation></message>
+</context>
+<context>
+    <name>VKD_H_SelGRP_Dialog</name>
+    <message><source>Group Selection</source><translation>Gruppenauswahl</translation></message>
+    <message><source>Pick in model</source><translation>Im Modell wählen</translation></message>
+    <message><source>Closes the dialogs so that you can pick the groups in the model view</source><translation>Schließt die Dialoge, damit Sie die Gruppen in der Modellansicht wählen können</translation></message>
+</context>
+<context>
+    <name>VKD_H_SecondaryGroupDialog</name>
+    <message><source>Secondary Group Selection</source><translation>Auswahl der Sekundärgruppen</translation></message>
 </context>
 </TS>

@@ -101,6 +101,51 @@ bool hasBrics(int index, int* count) { return countRecords(index, KeyBricks, cou
 bool hasQuadTendons(int index, int* count) { return countRecords(index, KeyQuadTendons, count); }
 bool hasBeamTendons(int index, int* count) { return countRecords(index, KeyBeamTendons, count); }
 bool hasCrossSections(int index, int* count) { return countRecords(index, KeyCrossSections, count); }
+bool hasGroups(int index, int* count)
+{
+    return countRecords(index, KeyGroups, count);
+}
+bool hasSgrp(int index, int* count)
+{
+    return countRecords(index, KeySecondaryGroups, count);
+}
+
+bool packSecondaryGroupName(const QString& name, int32_t* number)
+{
+    if (name.isEmpty() || name.size() > 4 || name != name.trimmed())
+        return false;
+    quint32 bits = 0;
+    for (int i = 0; i < 4; ++i) {
+        const ushort c = i < name.size() ? name.at(i).unicode() : ushort(' ');
+        if (c < 0x20 || c > 0x7E)
+            return false;
+        bits |= quint32(c) << (8 * i);
+    }
+    if (number)
+        *number = int32_t(bits);
+    return true;
+}
+
+QString secondaryGroupName(int32_t number)
+{
+    const quint32 bits = quint32(number);
+    QByteArray raw;
+    for (int i = 0; i < 4; ++i) {
+        const char c = char((bits >> (8 * i)) & 0xFF);
+        if (c == 0)
+            break;
+        raw += c;
+    }
+    const QString trimmed = QString::fromLatin1(raw).trimmed();
+    QString name;
+    for (const QChar c : trimmed) {
+        if (c.unicode() >= 0x20 && c.unicode() <= 0x7E)
+            name += c;
+        else
+            name += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+    }
+    return name;
+}
 
 QString cameraText(const Camera& camera, int form)
 {

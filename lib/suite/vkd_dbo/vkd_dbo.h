@@ -57,7 +57,7 @@ struct ElementRecord
 
 struct GroupRecord
 {
-    int32_t number; // primary groups 0..999999; secondary groups 1000000 + packed name
+    int32_t number; // primary groups 0..999999; secondary groups: the packed name (see below)
     char title[32]; // UTF-8, zero-terminated
 };
 
@@ -95,6 +95,19 @@ bool hasBrics(int index, int* count);
 bool hasQuadTendons(int index, int* count);
 bool hasBeamTendons(int index, int* count);
 bool hasCrossSections(int index, int* count);
+bool hasGroups(int index, int* count);
+bool hasSgrp(int index, int* count);
+
+// Secondary groups are named, not numbered: up to four ASCII characters, padded with blanks,
+// first character in the lowest byte of the number. Blank padding puts every such number above
+// the primary ones (1000000 and more).
+constexpr int32_t kFirstSecondaryGroup = 1000000;
+// The packed number of a name of one to four printable ASCII characters without leading or
+// trailing blanks; false for any other name.
+bool packSecondaryGroupName(const QString& name, int32_t* number);
+// The name in a packed number: its bytes up to the first zero, trimmed. A byte outside
+// printable ASCII shows as \xNN, so a damaged number still gives a readable text.
+QString secondaryGroupName(int32_t number);
 
 // All records of a key pair as plain structs; records of another size are skipped.
 template <typename Record> std::vector<Record> readAll(int index, int key1, int key2 = 1);

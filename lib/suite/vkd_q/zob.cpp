@@ -7,13 +7,19 @@
 
 #include <cstring>
 #include <memory>
+#include <unordered_map>
 
 namespace {
 
 // Written into the file's application_id so that a project can be told from any other
 // SQLite file before anything is written to it ("VKDZ").
 constexpr int kApplicationId = 0x564B445A;
-constexpr int kBusyTimeoutMs = 30000;
+// Opening waits less than a write: a project that another program holds exclusively is
+// reported soon instead of freezing the caller.
+constexpr int kOpenBusyTimeoutMs = 2000;
+constexpr int kHeaderSize = 100;
+constexpr int kHeaderApplicationId = 68;
+constexpr int kHeaderUserVersion = 60;
 
 const char* const kSchema = "CREATE TABLE zob_key(key1 INTEGER NOT NULL, key2 INTEGER NOT NULL,"
                             " PRIMARY KEY(key1, key2)) WITHOUT ROWID;"
@@ -27,20 +33,35 @@ struct Statement
     ~Statement() { sqlite3_finalize(stmt); }
 };
 
+bool execScript(sqlite3* db, const char* sql)
+{
+    return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
 class Database
 {
 public:
-    explicit Database(sqlite3* db) : m_db(db) {}
+    Database(sqlite3* db, const QString& path) : path(path), m_db(db) {}
     ~Database()
     {
         endWalk();
         m_statements.clear();
+        // A write that was never freed did not finish: it must not land half.
         if (!sqlite3_get_autocommit(m_db))
-            sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr);
+            execScript(m_db, "ROLLBACK");
         sqlite3_close(m_db);
     }
     sqlite3* handle() const { return m_db; }
-    QString path;
+
+    const QString path;
+    QString readOnlyReason; // empty when the project may be written
+    int busyTimeoutMs = kZobBusyTimeoutMs;
+    // The present write: from a lock to the free of the same key pair, or one put outside.
+    bool writeOpen = false;
+    int writeKey1 = 0;
+    int writeKey2 = 0;
+    zob_status_t writeStatus = ZOB_OK;
+    QString writeError;
 
     // Statements are prepared once per connection and reset after each use.
     sqlite3_stmt* statement(const char* sql)
@@ -54,6 +75,64 @@ public:
         sqlite3_reset(slot->stmt);
         sqlite3_clear_bindings(slot->stmt);
         return slot->stmt;
+    }
+
+    void beginWrite(int key1, int key2)
+    {
+        forgetAppend();
+        writeOpen = true;
+        writeKey1 = key1;
+        writeKey2 = key2;
+        writeStatus = ZOB_OK;
+        writeError.clear();
+    }
+
+    // Only the first failure is kept: it is the cause, the later ones follow from it.
+    zob_status_t fail(zob_status_t status)
+    {
+        if (writeStatus != ZOB_OK)
+            return status;
+        writeStatus = status;
+        if (status == ZOB_READ_ONLY)
+            writeError =
+                QStringLiteral("The project file %1 is open for reading only: %2.").arg(path, readOnlyReason);
+        else if (status == ZOB_BUSY)
+            writeError =
+                QStringLiteral("The project file %1 is in use by another program, which still held it "
+                               "after %2 seconds.")
+                    .arg(path)
+                    .arg(busyTimeoutMs / 1000.0);
+        else
+            writeError = QStringLiteral("The project file %1 could not be written: %2.")
+                             .arg(path, QString::fromUtf8(sqlite3_errmsg(m_db)));
+        return status;
+    }
+
+    zob_status_t failFromDatabase()
+    {
+        return fail(sqlite3_errcode(m_db) == SQLITE_BUSY ? ZOB_BUSY : ZOB_FAILED);
+    }
+
+    zob_status_t takeLock()
+    {
+        if (!readOnlyReason.isEmpty())
+            return fail(ZOB_READ_ONLY);
+        return execScript(m_db, "BEGIN IMMEDIATE") ? ZOB_OK : failFromDatabase();
+    }
+
+    // Lands the write whole if nothing in it failed, and not at all otherwise.
+    void endWrite()
+    {
+        endWalk();
+        forgetAppend();
+        writeOpen = false;
+        if (sqlite3_get_autocommit(m_db))
+            return; // the lock was never taken
+        if (writeStatus == ZOB_OK && execScript(m_db, "COMMIT"))
+            return;
+        if (writeStatus == ZOB_OK)
+            failFromDatabase();
+        execScript(m_db, "ROLLBACK");
     }
 
     // Readers walk a key pair position by position. The walk after its first two steps is
@@ -75,8 +154,8 @@ public:
         walk = Walk();
     }
 
-    // Inside a transaction of this connection no one else writes, so the next free position of
-    // the key pair last appended to holds until the transaction ends.
+    // Inside a write no one else writes, so the next free position of the key pair last
+    // appended to holds until the write ends.
     struct Append
     {
         int key1 = 0;
@@ -103,11 +182,6 @@ Registry& registry()
     return r;
 }
 
-bool execScript(sqlite3* db, const char* sql)
-{
-    return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
-}
-
 std::shared_ptr<Database> openScratch()
 {
     sqlite3* db = nullptr;
@@ -116,9 +190,7 @@ std::shared_ptr<Database> openScratch()
         sqlite3_close(db);
         return nullptr;
     }
-    auto d = std::make_shared<Database>(db);
-    d->path = QStringLiteral(":memory:");
-    return d;
+    return std::make_shared<Database>(db, QStringLiteral(":memory:"));
 }
 
 Database* database(int index)
@@ -134,22 +206,84 @@ Database* database(int index)
     return it == r.open.constEnd() ? nullptr : it->get();
 }
 
-int queryInt(sqlite3* db, const char* sql, int fallback)
+// Why SQLite could not read a file that looked like a project.
+QString readProblem(sqlite3* db, int rc, const QString& path)
 {
-    sqlite3_stmt* st = nullptr;
-    int value = fallback;
-    if (sqlite3_prepare_v2(db, sql, -1, &st, nullptr) == SQLITE_OK && sqlite3_step(st) == SQLITE_ROW)
-        value = sqlite3_column_int(st, 0);
-    sqlite3_finalize(st);
-    return value;
+    const QString detail = QString::fromUtf8(sqlite3_errmsg(db));
+    switch (rc) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return QStringLiteral("The project file %1 is in use by another program.").arg(path);
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return QStringLiteral("The project file %1 is damaged: %2.").arg(path, detail);
+    case SQLITE_READONLY:
+        // A hot journal that only a writer may roll back.
+        return QStringLiteral(
+                   "The project file %1 was left in the middle of a write; open it once for editing "
+                   "so that the unfinished write is undone.")
+            .arg(path);
+    default:
+        return QStringLiteral("The project file %1 cannot be read: %2.").arg(path, detail);
+    }
 }
 
-bool hasProjectTables(sqlite3* db)
+// Runs a one-row query; the SQLite result of the first thing that failed, or SQLITE_ROW.
+int queryText(sqlite3* db, const char* sql, QByteArray* value)
 {
-    return queryInt(
-               db,
-               "SELECT count(*) FROM sqlite_master WHERE type='table' AND name IN ('zob_key','zob_record')",
-               0) == 2;
+    sqlite3_stmt* st = nullptr;
+    int rc = sqlite3_prepare_v2(db, sql, -1, &st, nullptr);
+    if (rc == SQLITE_OK) {
+        rc = sqlite3_step(st);
+        if (rc == SQLITE_ROW)
+            *value = QByteArray(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
+    }
+    sqlite3_finalize(st);
+    return rc;
+}
+
+// Empty if the open file is a sound project.
+QString checkProject(sqlite3* db, const QString& path)
+{
+    QByteArray tables;
+    int rc = queryText(
+        db, "SELECT count(*) FROM sqlite_master WHERE type='table' AND name IN ('zob_key','zob_record')",
+        &tables);
+    if (rc != SQLITE_ROW)
+        return readProblem(db, rc, path);
+    if (tables != "2")
+        return QStringLiteral("The project file %1 is damaged: its record tables are missing.").arg(path);
+    QByteArray check;
+    rc = queryText(db, "PRAGMA quick_check", &check);
+    if (rc != SQLITE_ROW)
+        return readProblem(db, rc, path);
+    if (check != "ok")
+        return QStringLiteral("The project file %1 is damaged: the integrity check failed.").arg(path);
+    return QString();
+}
+
+quint32 bigEndianWord(const QByteArray& head, int offset)
+{
+    const auto* b = reinterpret_cast<const unsigned char*>(head.constData() + offset);
+    return (quint32(b[0]) << 24) | (quint32(b[1]) << 16) | (quint32(b[2]) << 8) | quint32(b[3]);
+}
+
+// Reads the header with plain file I/O, so that a file that is refused here is never touched
+// by SQLite. Empty if the header is that of a project this program reads.
+QString checkHeader(const QByteArray& head, const QString& path)
+{
+    if (head.size() < kHeaderSize || !head.startsWith("SQLite format 3"))
+        return QStringLiteral("%1 is not a project file.").arg(path);
+    if (bigEndianWord(head, kHeaderApplicationId) != quint32(kApplicationId))
+        return QStringLiteral("%1 is an SQLite database, but not a project file.").arg(path);
+    const quint32 version = bigEndianWord(head, kHeaderUserVersion);
+    if (version != quint32(kZobFormatVersion))
+        return QStringLiteral(
+                   "The project file %1 has format version %2; this program reads version %3 only.")
+            .arg(path)
+            .arg(version)
+            .arg(kZobFormatVersion);
+    return QString();
 }
 
 zob_status_t stepStatus(int rc)
@@ -185,7 +319,7 @@ bool keyKnown(Database* d, int key1, int key2)
 
 } // namespace
 
-int vkd_zob_open(const QString& path, bool create, QString* error)
+int vkd_zob_open(const QString& path, ZobOpenMode mode, QString* error)
 {
     auto fail = [error](const QString& message) {
         if (error)
@@ -193,64 +327,83 @@ int vkd_zob_open(const QString& path, bool create, QString* error)
         return -1;
     };
     const QFileInfo info(path);
-    const bool exists = info.exists();
-    if (!exists && !create)
+    bool create = !info.exists();
+    if (create && mode != ZOB_OPEN_OR_CREATE)
         return fail(QStringLiteral("The project file %1 does not exist.").arg(path));
-    if (exists && info.isDir())
+    if (info.isDir())
         return fail(QStringLiteral("%1 is a folder, not a project file.").arg(path));
-    if (exists && info.size() > 0) {
-        // Check the header before SQLite sees the file, so that a foreign file is never touched.
+    if (!create) {
         QFile f(path);
         if (!f.open(QIODevice::ReadOnly))
-            return fail(QStringLiteral("The project file %1 cannot be read.").arg(path));
-        const QByteArray head = f.read(100);
-        if (head.size() < 100 || !head.startsWith("SQLite format 3"))
-            return fail(QStringLiteral("%1 is not a project file.").arg(path));
-        const auto* b = reinterpret_cast<const unsigned char*>(head.constData());
-        const int appId = (b[68] << 24) | (b[69] << 16) | (b[70] << 8) | b[71];
-        if (appId != kApplicationId)
-            return fail(QStringLiteral("%1 is an SQLite database, but not a project file.").arg(path));
+            return fail(QStringLiteral("The project file %1 cannot be read: %2.").arg(path, f.errorString()));
+        const QByteArray head = f.read(kHeaderSize);
+        if (head.isEmpty() && f.atEnd()) {
+            if (mode != ZOB_OPEN_OR_CREATE)
+                return fail(QStringLiteral("The project file %1 is empty; it is not a project.").arg(path));
+            create = true;
+        } else {
+            const QString problem = checkHeader(head, path);
+            if (!problem.isEmpty())
+                return fail(problem);
+        }
     }
 
+    QString readOnlyReason;
+    if (mode == ZOB_OPEN_READ_ONLY || mode == ZOB_OPEN_MEMORY_COPY)
+        readOnlyReason = QStringLiteral("it was opened for reading only");
+    else if (!create && !info.isWritable())
+        readOnlyReason = QStringLiteral("the file is write-protected");
+    else if (!create && !QFileInfo(info.absolutePath()).isWritable())
+        readOnlyReason = QStringLiteral("its folder is write-protected, so no journal can be kept beside it");
+
     sqlite3* db = nullptr;
-    const int flags = SQLITE_OPEN_READWRITE | (create ? SQLITE_OPEN_CREATE : 0);
+    const int flags = readOnlyReason.isEmpty() ? SQLITE_OPEN_READWRITE | (create ? SQLITE_OPEN_CREATE : 0)
+                                               : SQLITE_OPEN_READONLY;
     if (sqlite3_open_v2(QFile::encodeName(path).constData(), &db, flags, nullptr) != SQLITE_OK) {
         const QString msg = db ? QString::fromUtf8(sqlite3_errmsg(db)) : QStringLiteral("out of memory");
         sqlite3_close(db);
-        return fail(QStringLiteral("The project file %1 cannot be opened: %2").arg(path, msg));
+        return fail(QStringLiteral("The project file %1 cannot be opened: %2.").arg(path, msg));
     }
-    sqlite3_busy_timeout(db, kBusyTimeoutMs);
+    sqlite3_busy_timeout(db, kOpenBusyTimeoutMs);
     sqlite3_extended_result_codes(db, 0);
 
-    if (exists && info.size() > 0) {
-        QString problem;
-        if (!hasProjectTables(db)) {
-            problem = QStringLiteral("its record tables are missing");
-        } else {
-            sqlite3_stmt* st = nullptr;
-            if (sqlite3_prepare_v2(db, "PRAGMA quick_check", -1, &st, nullptr) != SQLITE_OK)
-                problem = QString::fromUtf8(sqlite3_errmsg(db));
-            else if (sqlite3_step(st) != SQLITE_ROW ||
-                     qstrcmp(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)), "ok") != 0)
-                problem = QStringLiteral("the integrity check failed");
-            sqlite3_finalize(st);
-        }
-        if (!problem.isEmpty()) {
-            sqlite3_close(db);
-            return fail(QStringLiteral("The project file %1 is damaged: %2.").arg(path, problem));
-        }
-    } else {
-        const QByteArray init = QByteArray("PRAGMA application_id=") + QByteArray::number(kApplicationId) +
-                                ";PRAGMA journal_mode=WAL;BEGIN;" + kSchema + "COMMIT;";
+    if (create) {
+        // The header words and the tables land in one transaction: a file is a whole project or
+        // none. The rollback journal keeps readers from writing anything beside the file.
+        const QByteArray init =
+            "BEGIN IMMEDIATE;PRAGMA application_id=" + QByteArray::number(kApplicationId) +
+            ";PRAGMA user_version=" + QByteArray::number(kZobFormatVersion) + ";" + kSchema + "COMMIT;";
         if (!execScript(db, init.constData())) {
             const QString msg = QString::fromUtf8(sqlite3_errmsg(db));
             sqlite3_close(db);
-            return fail(QStringLiteral("The project file %1 cannot be created: %2").arg(path, msg));
+            return fail(QStringLiteral("The project file %1 cannot be created: %2.").arg(path, msg));
+        }
+    } else {
+        const QString problem = checkProject(db, path);
+        if (!problem.isEmpty()) {
+            sqlite3_close(db);
+            return fail(problem);
         }
     }
 
-    auto d = std::make_shared<Database>(db);
-    d->path = info.absoluteFilePath();
+    if (mode == ZOB_OPEN_MEMORY_COPY) {
+        sqlite3* copy = nullptr;
+        sqlite3_open_v2(":memory:", &copy, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+        sqlite3_backup* backup = copy ? sqlite3_backup_init(copy, "main", db, "main") : nullptr;
+        const bool copied = backup && sqlite3_backup_step(backup, -1) == SQLITE_DONE;
+        sqlite3_backup_finish(backup);
+        sqlite3_close(db);
+        if (!copied) {
+            sqlite3_close(copy);
+            return fail(QStringLiteral("The project file %1 cannot be copied into memory.").arg(path));
+        }
+        db = copy;
+        readOnlyReason.clear(); // the copy takes every write and forgets it
+    }
+    sqlite3_busy_timeout(db, kZobBusyTimeoutMs);
+
+    auto d = std::make_shared<Database>(db, info.absoluteFilePath());
+    d->readOnlyReason = readOnlyReason;
     auto& r = registry();
     const int index = r.nextIndex++;
     r.open.insert(index, d);
@@ -267,6 +420,32 @@ QString vkd_zob_path(int index)
 {
     Database* d = database(index);
     return d ? d->path : QString();
+}
+
+bool vkd_zob_read_only(int index)
+{
+    Database* d = database(index);
+    return d && !d->readOnlyReason.isEmpty();
+}
+
+void vkd_zob_set_busy_timeout(int index, int milliseconds)
+{
+    if (Database* d = database(index)) {
+        d->busyTimeoutMs = milliseconds;
+        sqlite3_busy_timeout(d->handle(), milliseconds);
+    }
+}
+
+zob_status_t vkd_zob_write_status(int index)
+{
+    Database* d = database(index);
+    return d ? d->writeStatus : ZOB_NO_DATABASE;
+}
+
+QString vkd_zob_write_error(int index)
+{
+    Database* d = database(index);
+    return d ? d->writeError : QString();
 }
 
 zob_status_t vkd_zob_get(int index, int key1, int key2, void* record, int* length, int position)
@@ -335,13 +514,18 @@ zob_status_t vkd_zob_put(int index, int key1, int key2, const void* record, cons
     if (!d)
         return ZOB_NO_DATABASE;
     d->endWalk();
-    // Several statements: outside a lock they still have to land together.
-    sqlite3* db = d->handle();
-    const bool ownTransaction = sqlite3_get_autocommit(db);
-    if (ownTransaction) {
-        d->forgetAppend();
-        if (!execScript(db, "BEGIN IMMEDIATE"))
-            return sqlite3_errcode(db) == SQLITE_BUSY ? ZOB_BUSY : ZOB_FAILED;
+    // Outside a lock the put is a write of its own, whose statements land together. Inside a
+    // write that has failed already it is refused, so that nothing of that write lands.
+    const bool single = !d->writeOpen;
+    if (single) {
+        d->beginWrite(key1, key2);
+        const zob_status_t locked = d->takeLock();
+        if (locked != ZOB_OK) {
+            d->writeOpen = false;
+            return locked;
+        }
+    } else if (d->writeStatus != ZOB_OK) {
+        return d->writeStatus;
     }
 
     Database::Append& append = d->append;
@@ -389,41 +573,42 @@ zob_status_t vkd_zob_put(int index, int key1, int key2, const void* record, cons
         if (status == ZOB_OK)
             ++nextPos;
     }
-    if (ownTransaction || status != ZOB_OK || sqlite3_get_autocommit(db)) {
-        d->forgetAppend();
-    } else {
+    if (status == ZOB_OK && !single) {
         append.key1 = key1;
         append.key2 = key2;
         append.nextPos = nextPos;
+    } else {
+        d->forgetAppend();
     }
-    if (ownTransaction)
-        execScript(db, status == ZOB_OK ? "COMMIT" : "ROLLBACK");
-    return status;
+    if (status != ZOB_OK)
+        d->fail(status);
+    if (single)
+        d->endWrite();
+    return single ? d->writeStatus : status;
 }
 
-zob_status_t vkd_zob_lock_ex(int index, int, int)
+zob_status_t vkd_zob_lock_ex(int index, int key1, int key2)
 {
     Database* d = database(index);
     if (!d)
         return ZOB_NO_DATABASE;
     d->endWalk();
-    if (!sqlite3_get_autocommit(d->handle()))
-        return ZOB_OK; // already inside this program's own write transaction
-    d->forgetAppend();
-    if (execScript(d->handle(), "BEGIN IMMEDIATE"))
-        return ZOB_OK;
-    return sqlite3_errcode(d->handle()) == SQLITE_BUSY ? ZOB_BUSY : ZOB_FAILED;
+    if (d->writeOpen)
+        return d->writeStatus; // a lock inside the present write joins it
+    d->beginWrite(key1, key2);
+    return d->takeLock();
 }
 
-void vkd_zob_free_ex(int index, int, int)
+void vkd_zob_free_ex(int index, int key1, int key2)
 {
+    // Only the free of the key pair that began the write ends it; readers free their own key
+    // pair whether they locked it or not.
     Database* d = database(index);
     if (!d)
         return;
     d->endWalk();
-    d->forgetAppend();
-    if (!sqlite3_get_autocommit(d->handle()))
-        execScript(d->handle(), "COMMIT");
+    if (d->writeOpen && key1 == d->writeKey1 && key2 == d->writeKey2)
+        d->endWrite();
 }
 
 void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode)

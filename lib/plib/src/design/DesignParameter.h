@@ -57,6 +57,7 @@ private slots:
 
 private:
     friend class TestDesignPage;
+    friend class TestGroupSelection;
 
     void buildTable();
     bool isRowNumber(int number) const;
@@ -66,6 +67,12 @@ private:
     // Draws one row again, or with -1 appends all rows to an empty table.
     void refreshRows(int number);
     void swapRows(int a, int b);
+    // True if some row applies to the remaining groups.
+    bool hasRemainingRow() const;
+    // Appends the groups of all rows but this one to list (not [-1]), then sorts it.
+    void collectUsedGroups(int row, std::vector<int>& list) const;
+    // Takes a list a group dialog gave this row, and shows it in the row's editor if open.
+    void takeGroups(int row, const std::vector<int>& groups, int editorRow);
     void widenColumns();
 
     std::unique_ptr<DesignParameterData> data;
