@@ -8,6 +8,7 @@
 #include <cstring>
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 namespace {
 
@@ -44,7 +45,6 @@ public:
     Database(sqlite3* db, const QString& path) : path(path), m_db(db) {}
     ~Database()
     {
-        endWalk();
         m_statements.clear();
         // A write that was never freed did not finish: it must not land half.
         if (!sqlite3_get_autocommit(m_db))
@@ -135,24 +135,27 @@ public:
         execScript(m_db, "ROLLBACK");
     }
 
-    // Readers walk a key pair position by position. The walk after its first two steps is
-    // served by one cursor in position order instead of a lookup per position. Any other
-    // call on the database ends the walk first, so that an open cursor never sees a change of
-    // this connection nor keeps its snapshot beyond the walk.
+    // Readers walk a key pair position by position. After its first two steps a walk is served
+    // from batches of records read in position order, instead of a lookup per position. No
+    // statement stays open between calls: an open read would hold the file's shared lock and
+    // keep other programs from writing. A walk sees the records of a batch as they stood when
+    // the batch was read; any other call on the database ends the walk, so that it never
+    // misses a change of this connection.
+    struct Buffered
+    {
+        int position;
+        QByteArray data;
+    };
     struct Walk
     {
         int key1 = 0;
         int key2 = 0;
         int lastPosition = -1; // -1: no walk
-        sqlite3_stmt* cursor = nullptr;
+        std::vector<Buffered> batch;
+        size_t next = 0;
     };
     Walk walk;
-    void endWalk()
-    {
-        if (walk.cursor)
-            sqlite3_reset(walk.cursor);
-        walk = Walk();
-    }
+    void endWalk() { walk = Walk(); }
 
     // Inside a write no one else writes, so the next free position of the key pair last
     // appended to holds until the write ends.
@@ -303,6 +306,33 @@ zob_status_t markKey(Database* d, int key1, int key2)
     const zob_status_t status = stepStatus(sqlite3_step(st));
     sqlite3_reset(st);
     return status;
+}
+
+// Records a walk serves from one read.
+constexpr int kWalkBatch = 512;
+
+// The next batch of a walk: the records from position on, in position order.
+void readBatch(Database* d, int key1, int key2, int position)
+{
+    Database::Walk& walk = d->walk;
+    walk.batch.clear();
+    walk.next = 0;
+    sqlite3_stmt* st = d->statement("SELECT pos, data FROM zob_record WHERE key1=?1 AND key2=?2 AND pos>=?3"
+                                    " ORDER BY pos LIMIT ?4");
+    if (!st)
+        return;
+    sqlite3_bind_int(st, 1, key1);
+    sqlite3_bind_int(st, 2, key2);
+    sqlite3_bind_int(st, 3, position);
+    sqlite3_bind_int(st, 4, kWalkBatch);
+    int rc;
+    while ((rc = sqlite3_step(st)) == SQLITE_ROW)
+        walk.batch.push_back(
+            {sqlite3_column_int(st, 0),
+             QByteArray(static_cast<const char*>(sqlite3_column_blob(st, 1)), sqlite3_column_bytes(st, 1))});
+    sqlite3_reset(st);
+    if (rc != SQLITE_DONE)
+        walk.batch.clear(); // the lookup of the position reports the error
 }
 
 bool keyKnown(Database* d, int key1, int key2)
@@ -460,27 +490,19 @@ zob_status_t vkd_zob_get(int index, int key1, int key2, void* record, int* lengt
         walk.lastPosition >= 0 && walk.key1 == key1 && walk.key2 == key2 && position == walk.lastPosition + 1;
     if (!continues)
         d->endWalk();
-    if (continues && !walk.cursor) {
-        walk.cursor = d->statement("SELECT pos, data FROM zob_record WHERE key1=?1 AND key2=?2 AND pos>=?3"
-                                   " ORDER BY pos");
-        if (walk.cursor) {
-            sqlite3_bind_int(walk.cursor, 1, key1);
-            sqlite3_bind_int(walk.cursor, 2, key2);
-            sqlite3_bind_int(walk.cursor, 3, position);
-        }
+    if (continues && walk.next >= walk.batch.size())
+        readBatch(d, key1, key2, position);
+    if (continues && walk.next < walk.batch.size() && walk.batch[walk.next].position == position) {
+        const QByteArray& data = walk.batch[walk.next++].data;
+        const int copied = qMin(data.size(), *length);
+        if (copied > 0)
+            std::memcpy(record, data.constData(), size_t(copied));
+        *length = copied;
+        walk.lastPosition = position;
+        return data.size() > copied ? ZOB_TRUNCATED : ZOB_OK;
     }
-    if (continues && walk.cursor) {
-        if (sqlite3_step(walk.cursor) == SQLITE_ROW && sqlite3_column_int(walk.cursor, 0) == position) {
-            const int size = sqlite3_column_bytes(walk.cursor, 1);
-            const int copied = qMin(size, *length);
-            if (copied > 0)
-                std::memcpy(record, sqlite3_column_blob(walk.cursor, 1), size_t(copied));
-            *length = copied;
-            walk.lastPosition = position;
-            return size > copied ? ZOB_TRUNCATED : ZOB_OK;
-        }
+    if (continues)
         d->endWalk(); // the end, a gap or an error: the lookup below tells which
-    }
     sqlite3_stmt* st = d->statement("SELECT data FROM zob_record WHERE key1=?1 AND key2=?2 AND pos=?3");
     if (!st)
         return ZOB_FAILED;
