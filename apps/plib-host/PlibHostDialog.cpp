@@ -3,6 +3,7 @@
 #include "LoadCasePage.h"
 #include "ScriptPreview.h"
 
+#include <AnimatorView.h>
 #include <VKD_H_PluginParameter.h>
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter.h>
@@ -42,7 +43,8 @@ PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, bool englishKeywords, QWid
     // may leave for a pick in the model and the tabs they are shown in.
     m_design = new VKD_P_DesignParameter(project, project, this, false, false);
     m_design->init();
-    m_output = new VKD_P_WidgetGraphicalOutput(this, GraphicalOutputStandard, m_parameter.get(), nullptr);
+    m_output = new VKD_P_WidgetGraphicalOutput(this, GraphicalOutputStandard, m_parameter.get(),
+                                               new AnimatorView(project->index()));
     m_split = new VKD_P_WidgetGraphicalOutput(this, GraphicalOutputSplit, m_parameter.get(), nullptr);
     m_loadCases = new LoadCasePage(project->index(), this);
     addTab(m_design, tr("Design Parameters"));
@@ -163,7 +165,7 @@ QString PlibHostDialog::scriptPath(const VKD_P_WidgetGraphicalOutput* page) cons
                                   QLatin1String(page == m_split ? ".split.grav" : ".grav"));
 }
 
-bool PlibHostDialog::save(QString* error)
+PlibHostDialog::SaveResult PlibHostDialog::save(QString* error)
 {
     // The design records and both pages land together or not at all. The pages do not look
     // at the results of their writes; the document keeps the first failure. Waiting for
@@ -182,7 +184,7 @@ bool PlibHostDialog::save(QString* error)
     if (!failure.isEmpty()) {
         *error = failure + QStringLiteral("\n\n") +
                  tr("Nothing was saved. The dialog stays open so that nothing you entered is lost.");
-        return false;
+        return ProjectNotSaved;
     }
 
     for (VKD_P_WidgetGraphicalOutput* page : {m_output, m_split}) {
@@ -191,10 +193,10 @@ bool PlibHostDialog::save(QString* error)
             !file.commit()) {
             *error = tr("The script could not be written to %1: %2. The project was saved.")
                          .arg(QDir::toNativeSeparators(scriptPath(page)), file.errorString());
-            return false;
+            return ScriptNotWritten;
         }
     }
-    return true;
+    return Saved;
 }
 
 void PlibHostDialog::accept()
@@ -202,9 +204,10 @@ void PlibHostDialog::accept()
     if (!m_design->checkVals() || !m_output->checkVals() || !m_split->checkVals())
         return;
     QString error;
-    if (!save(&error)) {
+    const SaveResult result = save(&error);
+    if (result != Saved)
         VKD_QT_MessageBox::warning(this, windowTitle(), error);
-        return;
-    }
-    VKD_QT_TabDialog::accept();
+    // The project holds what the user did even where a script could not be written.
+    if (result != ProjectNotSaved)
+        VKD_QT_TabDialog::accept();
 }

@@ -38,9 +38,10 @@ public:
     // "<project>.split.grav" for the page splitting.
     static QString script(VKD_P_WidgetGraphicalOutput* page, bool english);
     QString scriptPath(const VKD_P_WidgetGraphicalOutput* page) const;
-    // Writes the design parameters and the states of the pages into the project, then the
-    // script; false, with the reason in *error, if either did not land.
-    bool save(QString* error);
+    enum SaveResult { Saved, ProjectNotSaved, ScriptNotWritten };
+    // Writes the design parameters and the states of the pages into the project as one write,
+    // then the scripts; with the reason in *error where something did not land.
+    SaveResult save(QString* error);
 
 public slots:
     // Stays open when a page asks the user to stay or the project could not be written.

@@ -79,4 +79,33 @@
     <name>VKD_H_SecondaryGroupDialog</name>
     <message><source>Secondary Group Selection</source><translation>Auswahl der Sekundärgruppen</translation></message>
 </context>
+<context>
+    <name>VKD_H_ZOBDoc</name>
+    <message><source>The project file %1 is open for reading only: %2.</source><translation>Die Projektdatei %1 ist nur zum Lesen geöffnet: %2.</translation></message>
+    <message><source>The project file %1 is in use by another program, which still held it after %2 seconds.</source><translation>Die Projektdatei %1 wird von einem anderen Programm benutzt, das sie auch nach %2 Sekunden noch hielt.</translation></message>
+    <message><source>The project file %1 could not be written: %2.</source><translation>Die Projektdatei %1 konnte nicht geschrieben werden: %2.</translation></message>
+    <message><source>The project file %1 is in use by another program.</source><translation>Die Projektdatei %1 wird von einem anderen Programm benutzt.</translation></message>
+    <message><source>The project file %1 is damaged: %2.</source><translation>Die Projektdatei %1 ist beschädigt: %2.</translation></message>
+    <message><source>The project file %1 cannot be read: %2.</source><translation>Die Projektdatei %1 kann nicht gelesen werden: %2.</translation></message>
+    <message><source>The project file %1 is damaged: its record tables are missing.</source><translation>Die Projektdatei %1 ist beschädigt: ihre Satztabellen fehlen.</translation></message>
+    <message><source>The project file %1 is damaged: the integrity check failed.</source><translation>Die Projektdatei %1 ist beschädigt: die Integritätsprüfung schlug fehl.</translation></message>
+    <message><source>The project file %1 does not exist.</source><translation>Die Projektdatei %1 existiert nicht.</translation></message>
+    <message><source>The project file %1 is empty; it is not a project.</source><translation>Die Projektdatei %1 ist leer; sie ist kein Projekt.</translation></message>
+    <message><source>it was opened for reading only</source><translation>sie wurde nur zum Lesen geöffnet</translation></message>
+    <message><source>the file is write-protected</source><translation>die Datei ist schreibgeschützt</translation></message>
+    <message><source>its folder is write-protected, so no journal can be kept beside it</source><translation>ihr Ordner ist schreibgeschützt, daher kann daneben kein Journal geführt werden</translation></message>
+    <message><source>The project file %1 cannot be opened: %2.</source><translation>Die Projektdatei %1 kann nicht geöffnet werden: %2.</translation></message>
+    <message><source>The project file %1 cannot be created: %2.</source><translation>Die Projektdatei %1 kann nicht angelegt werden: %2.</translation></message>
+    <message><source>The project file %1 cannot be copied into memory.</source><translation>Die Projektdatei %1 kann nicht in den Speicher kopiert werden.</translation></message>
+    <message><source>%1 is not a project file.</source><translation>%1 ist keine Projektdatei.</translation></message>
+    <message><source>%1 is an SQLite database, but not a project file.</source><translation>%1 ist eine SQLite-Datenbank, aber keine Projektdatei.</translation></message>
+    <message><source>%1 is a folder, not a project file.</source><translation>%1 ist ein Ordner, keine Projektdatei.</translation></message>
+    <message><source>The project file %1 was left in the middle of a write; open it once for editing so that the unfinished write is undone.</source><translation>Die Projektdatei %1 wurde mitten in einem Schreibvorgang verlassen; öffnen Sie sie einmal zum Bearbeiten, damit der unvollendete Schreibvorgang rückgängig gemacht wird.</translation></message>
+    <message><source>The project file %1 has format version %2; this program reads version %3 only.</source><translation>Die Projektdatei %1 hat die Formatversion %2; dieses Programm liest nur Version %3.</translation></message>
+</context>
+<context>
+    <name>AnimatorView</name>
+    <message><source>The project holds no model to show.</source><translation>Das Projekt enthält kein Modell zum Anzeigen.</translation></message>
+    <message><source>Left drag turns the model, middle drag moves it, the wheel zooms. Choose &quot;User defined&quot; to turn it by hand.</source><translation>Ziehen mit der linken Maustaste dreht das Modell, mit der mittleren verschiebt es, das Mausrad zoomt. Wählen Sie &quot;Benutzerdefiniert&quot;, um es von Hand zu drehen.</translation></message>
+</context>
 </TS>

@@ -216,7 +216,11 @@ void setAnimatorPerspektive(int /*view*/, const QString& persistent)
     Camera camera;
     if (!cameraFromText(persistent, &camera))
         return;
-    const QByteArray text = cameraText(camera, CameraPersistentForm).toUtf8();
+    const QString persistentText = cameraText(camera, CameraPersistentForm);
+    // Reading a page hands its camera back; the same camera leaves the project file untouched.
+    if (getAnimatorPerspektive(0, CameraPersistentForm) == persistentText)
+        return;
+    const QByteArray text = persistentText.toUtf8();
     const int index = currentProject();
     const int length = text.size();
     vkd_zob_lock_ex(index, KeyCamera, 1);

@@ -1,5 +1,7 @@
 #include "vkd_q.h"
 
+#include <QCoreApplication>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -95,15 +97,15 @@ public:
         writeStatus = status;
         if (status == ZOB_READ_ONLY)
             writeError =
-                QStringLiteral("The project file %1 is open for reading only: %2.").arg(path, readOnlyReason);
+                QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 is open for reading only: %2.").arg(path, readOnlyReason);
         else if (status == ZOB_BUSY)
             writeError =
-                QStringLiteral("The project file %1 is in use by another program, which still held it "
+                QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 is in use by another program, which still held it "
                                "after %2 seconds.")
                     .arg(path)
                     .arg(busyTimeoutMs / 1000.0);
         else
-            writeError = QStringLiteral("The project file %1 could not be written: %2.")
+            writeError = QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 could not be written: %2.")
                              .arg(path, QString::fromUtf8(sqlite3_errmsg(m_db)));
         return status;
     }
@@ -216,18 +218,18 @@ QString readProblem(sqlite3* db, int rc, const QString& path)
     switch (rc) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return QStringLiteral("The project file %1 is in use by another program.").arg(path);
+        return QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 is in use by another program.").arg(path);
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
-        return QStringLiteral("The project file %1 is damaged: %2.").arg(path, detail);
+        return QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 is damaged: %2.").arg(path, detail);
     case SQLITE_READONLY:
         // A hot journal that only a writer may roll back.
-        return QStringLiteral(
-                   "The project file %1 was left in the middle of a write; open it once for editing "
+        return QCoreApplication::translate(
+                   "VKD_H_ZOBDoc", "The project file %1 was left in the middle of a write; open it once for editing "
                    "so that the unfinished write is undone.")
             .arg(path);
     default:
-        return QStringLiteral("The project file %1 cannot be read: %2.").arg(path, detail);
+        return QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 cannot be read: %2.").arg(path, detail);
     }
 }
 
@@ -255,13 +257,13 @@ QString checkProject(sqlite3* db, const QString& path)
     if (rc != SQLITE_ROW)
         return readProblem(db, rc, path);
     if (tables != "2")
-        return QStringLiteral("The project file %1 is damaged: its record tables are missing.").arg(path);
+        return QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 is damaged: its record tables are missing.").arg(path);
     QByteArray check;
     rc = queryText(db, "PRAGMA quick_check", &check);
     if (rc != SQLITE_ROW)
         return readProblem(db, rc, path);
     if (check != "ok")
-        return QStringLiteral("The project file %1 is damaged: the integrity check failed.").arg(path);
+        return QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 is damaged: the integrity check failed.").arg(path);
     return QString();
 }
 
@@ -276,13 +278,13 @@ quint32 bigEndianWord(const QByteArray& head, int offset)
 QString checkHeader(const QByteArray& head, const QString& path)
 {
     if (head.size() < kHeaderSize || !head.startsWith("SQLite format 3"))
-        return QStringLiteral("%1 is not a project file.").arg(path);
+        return QCoreApplication::translate("VKD_H_ZOBDoc", "%1 is not a project file.").arg(path);
     if (bigEndianWord(head, kHeaderApplicationId) != quint32(kApplicationId))
-        return QStringLiteral("%1 is an SQLite database, but not a project file.").arg(path);
+        return QCoreApplication::translate("VKD_H_ZOBDoc", "%1 is an SQLite database, but not a project file.").arg(path);
     const quint32 version = bigEndianWord(head, kHeaderUserVersion);
     if (version != quint32(kZobFormatVersion))
-        return QStringLiteral(
-                   "The project file %1 has format version %2; this program reads version %3 only.")
+        return QCoreApplication::translate(
+                   "VKD_H_ZOBDoc", "The project file %1 has format version %2; this program reads version %3 only.")
             .arg(path)
             .arg(version)
             .arg(kZobFormatVersion);
@@ -359,17 +361,17 @@ int vkd_zob_open(const QString& path, ZobOpenMode mode, QString* error)
     const QFileInfo info(path);
     bool create = !info.exists();
     if (create && mode != ZOB_OPEN_OR_CREATE)
-        return fail(QStringLiteral("The project file %1 does not exist.").arg(path));
+        return fail(QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 does not exist.").arg(path));
     if (info.isDir())
-        return fail(QStringLiteral("%1 is a folder, not a project file.").arg(path));
+        return fail(QCoreApplication::translate("VKD_H_ZOBDoc", "%1 is a folder, not a project file.").arg(path));
     if (!create) {
         QFile f(path);
         if (!f.open(QIODevice::ReadOnly))
-            return fail(QStringLiteral("The project file %1 cannot be read: %2.").arg(path, f.errorString()));
+            return fail(QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 cannot be read: %2.").arg(path, f.errorString()));
         const QByteArray head = f.read(kHeaderSize);
         if (head.isEmpty() && f.atEnd()) {
             if (mode != ZOB_OPEN_OR_CREATE)
-                return fail(QStringLiteral("The project file %1 is empty; it is not a project.").arg(path));
+                return fail(QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 is empty; it is not a project.").arg(path));
             create = true;
         } else {
             const QString problem = checkHeader(head, path);
@@ -380,11 +382,11 @@ int vkd_zob_open(const QString& path, ZobOpenMode mode, QString* error)
 
     QString readOnlyReason;
     if (mode == ZOB_OPEN_READ_ONLY || mode == ZOB_OPEN_MEMORY_COPY)
-        readOnlyReason = QStringLiteral("it was opened for reading only");
+        readOnlyReason = QCoreApplication::translate("VKD_H_ZOBDoc", "it was opened for reading only");
     else if (!create && !info.isWritable())
-        readOnlyReason = QStringLiteral("the file is write-protected");
+        readOnlyReason = QCoreApplication::translate("VKD_H_ZOBDoc", "the file is write-protected");
     else if (!create && !QFileInfo(info.absolutePath()).isWritable())
-        readOnlyReason = QStringLiteral("its folder is write-protected, so no journal can be kept beside it");
+        readOnlyReason = QCoreApplication::translate("VKD_H_ZOBDoc", "its folder is write-protected, so no journal can be kept beside it");
 
     sqlite3* db = nullptr;
     const int flags = readOnlyReason.isEmpty() ? SQLITE_OPEN_READWRITE | (create ? SQLITE_OPEN_CREATE : 0)
@@ -392,7 +394,7 @@ int vkd_zob_open(const QString& path, ZobOpenMode mode, QString* error)
     if (sqlite3_open_v2(QFile::encodeName(path).constData(), &db, flags, nullptr) != SQLITE_OK) {
         const QString msg = db ? QString::fromUtf8(sqlite3_errmsg(db)) : QStringLiteral("out of memory");
         sqlite3_close(db);
-        return fail(QStringLiteral("The project file %1 cannot be opened: %2.").arg(path, msg));
+        return fail(QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 cannot be opened: %2.").arg(path, msg));
     }
     sqlite3_busy_timeout(db, kOpenBusyTimeoutMs);
     sqlite3_extended_result_codes(db, 0);
@@ -406,7 +408,7 @@ int vkd_zob_open(const QString& path, ZobOpenMode mode, QString* error)
         if (!execScript(db, init.constData())) {
             const QString msg = QString::fromUtf8(sqlite3_errmsg(db));
             sqlite3_close(db);
-            return fail(QStringLiteral("The project file %1 cannot be created: %2.").arg(path, msg));
+            return fail(QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 cannot be created: %2.").arg(path, msg));
         }
     } else {
         const QString problem = checkProject(db, path);
@@ -425,7 +427,7 @@ int vkd_zob_open(const QString& path, ZobOpenMode mode, QString* error)
         sqlite3_close(db);
         if (!copied) {
             sqlite3_close(copy);
-            return fail(QStringLiteral("The project file %1 cannot be copied into memory.").arg(path));
+            return fail(QCoreApplication::translate("VKD_H_ZOBDoc", "The project file %1 cannot be copied into memory.").arg(path));
         }
         db = copy;
         readOnlyReason.clear(); // the copy takes every write and forgets it

@@ -6,6 +6,7 @@
 #include "scriptgenerator.h"
 #include "suiteenvironment.h"
 
+#include <AnimatorView.h>
 #include <VKD_H_BoxedLineEdit.h>
 #include <VKD_H_Dialog.h>
 #include <VKD_H_PluginParameter.h>
@@ -19,6 +20,7 @@
 #include <VKD_QT_TabDialog.h>
 #include <vkd_dbo.h>
 #include <vkd_h_fieldcheck.h>
+#include <vkd_qt_xmlpart.h>
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -42,13 +44,20 @@ public:
     int mark = Mark;
 };
 
-// Commands of the preview that the page sends.
-const AnimatorViewControl kStandard3D = static_cast<AnimatorViewControl>(0);
-const AnimatorViewControl kPlaneXY = static_cast<AnimatorViewControl>(3);
-const AnimatorViewControl kPlaneXZ = static_cast<AnimatorViewControl>(4);
-const AnimatorViewControl kPlaneYZ = static_cast<AnimatorViewControl>(5);
-const AnimatorViewControl kStoreCamera = static_cast<AnimatorViewControl>(6);
-const AnimatorViewControl kTakeCamera = static_cast<AnimatorViewControl>(7);
+// Tags of the page's persistent string.
+const QString kScaleTag = QStringLiteral("Scale");
+const QString kFontTag = QStringLiteral("Font");
+const QString kFillTag = QStringLiteral("Fill");
+const QString kFormatTag = QStringLiteral("Format");
+const QString kPartTag = QStringLiteral("Part");
+const QString kViewTag = QStringLiteral("View");
+const QString kCameraTag = QStringLiteral("Camera");
+const QString kSelectionTag = QStringLiteral("List_4");
+
+QString decimal(int entry)
+{
+    return QStringLiteral("%1").arg(entry, 0, 10, QChar(' '));
+}
 
 StructRadioButtonGrup entry(const QString& text, int flag = 0)
 {
@@ -212,6 +221,24 @@ VKD_P_WidgetGraphicalOutput::VKD_P_WidgetGraphicalOutput(QWidget* parent,
     // Without a preview the view group keeps its height at the top.
     if (!animator)
         viewColumn->addStretch(1);
+    if (animator) {
+        animator->setMinimumSize(160, 120);
+        viewColumn->addWidget(animator, 1);
+        data->viewGroup->setButton(View3DStandard);
+        using ViewSlot = void (VKD_P_WidgetGraphicalOutput::*)(bool);
+        const ViewSlot viewSlots[] = {
+            &VKD_P_WidgetGraphicalOutput::slotBeobXY, &VKD_P_WidgetGraphicalOutput::slotBeobXZ,
+            &VKD_P_WidgetGraphicalOutput::slotBeobYZ, &VKD_P_WidgetGraphicalOutput::slotBeob3D,
+            &VKD_P_WidgetGraphicalOutput::slotBeobAni};
+        for (int view = ViewXY; view <= ViewUserDefined; ++view)
+            connect(data->viewGroup->getRadioButton(view), &QRadioButton::toggled, this, viewSlots[view]);
+        // signalBeobXZ stays unconnected and signalBeobYZ is connected twice: hosts of the suite
+        // rely on this wiring, and the page emits signalBeobXY alone.
+        connect(this, &VKD_P_WidgetGraphicalOutput::signalBeobXY, animator, &AnimatorView::slotViewControl);
+        connect(this, &VKD_P_WidgetGraphicalOutput::signalBeobYZ, animator, &AnimatorView::slotViewControl);
+        connect(this, &VKD_P_WidgetGraphicalOutput::signalBeobYZ, animator, &AnimatorView::slotViewControl);
+        connect(this, &VKD_P_WidgetGraphicalOutput::signalBeob3D, animator, &AnimatorView::slotViewControl);
+    }
     boxGrid->addLayout(viewColumn, 0, 1);
     boxGrid->addWidget(data->attribs, 1, 0, 1, 2);
     pageGrid->setContentsMargins(0, 0, 0, 0);
@@ -341,47 +368,125 @@ QString VKD_P_WidgetGraphicalOutput::writeFillSet(bool fill, bool english)
     return fillDefinitions(fill, english);
 }
 
-// The page's state is not kept yet: the host stores an empty string, and reading one marks the
-// tree's choice as loaded.
 QString VKD_P_WidgetGraphicalOutput::writeXMLstring()
 {
-    return QString();
+    QString scale = QStringLiteral("0");
+    if (data->scaleGroup->selectedButton() == EngineeringScale)
+        scale = data->scaleCombo->currentIndex() == 0 ? QStringLiteral("-") : data->scaleCombo->currentText();
+    QString xml = vkd_qt_writeXMLpart(scale, kScaleTag);
+    xml += vkd_qt_writeXMLpart(data->fontEdit->getText(), kFontTag);
+    xml += vkd_qt_writeXMLpart(data->fillCheck && data->fillCheck->isChecked() ? QStringLiteral("1")
+                                                                               : QStringLiteral("0"),
+                               kFillTag);
+    if (data->formatGroup)
+        xml += vkd_qt_writeXMLpart(decimal(data->formatGroup->selectedButton()), kFormatTag);
+    if (data->picturesGroup)
+        xml += vkd_qt_writeXMLpart(decimal(data->picturesGroup->selectedButton()), kPartTag);
+    if (data->pageSplitCombo)
+        xml += data->pageSplitCombo->writeXMLstring();
+    if (data->viewGroup)
+        xml += vkd_qt_writeXMLpart(decimal(data->viewGroup->selectedButton()), kViewTag);
+    if (data->animator) {
+        // The preview keeps its camera in the store first, so that the part holds what it shows.
+        emit signalBeobXY(AnimatorStoreCamera, 0.0);
+        xml += vkd_qt_writeXMLpart(vkd::dbo::getAnimatorPerspektive(0, vkd::dbo::CameraPersistentForm),
+                                   kCameraTag);
+    }
+    xml += vkd_qt_writeXMLpart(data->tree->selectionText(), kSelectionTag);
+    return xml;
 }
 
+// A part that is missing leaves its widget alone, so that a string of another kind of page can be
+// read; the camera and the tree's choice are applied in any case.
 void VKD_P_WidgetGraphicalOutput::readXMLstring(QString xml)
 {
-    if (xml.isEmpty())
+    if (xml.isEmpty()) {
         data->tree->applySelection(QString());
+        return;
+    }
+    auto part = [&xml](const QString& tag) { return vkd_qt_readXMLpart(xml, 0, tag, nullptr); };
+
+    const QString scale = part(kScaleTag);
+    if (!scale.isNull()) {
+        if (scale.contains(QLatin1Char('-'))) {
+            data->scaleCombo->setCurrentIndex(0);
+            data->scaleGroup->setButton(EngineeringScale);
+        } else if (const int row =
+                       data->scaleCombo->findText(scale, Qt::MatchExactly | Qt::MatchCaseSensitive);
+                   row >= 0) {
+            data->scaleCombo->setCurrentIndex(row);
+            data->scaleGroup->setButton(EngineeringScale);
+        } else {
+            data->scaleGroup->setButton(ScaleToFit);
+        }
+    }
+    const QString font = part(kFontTag);
+    if (!font.isNull())
+        data->fontEdit->setText(font);
+    const QString fill = part(kFillTag);
+    if (data->fillCheck && !fill.isNull())
+        data->fillCheck->setChecked(fill.contains(QLatin1Char('1')));
+    const QString format = part(kFormatTag);
+    if (!format.isNull() && data->formatGroup) {
+        data->formatGroup->setButton(format.toInt());
+        slotQuerFormat();
+    }
+    const QString pictures = part(kPartTag);
+    if (!pictures.isNull() && data->picturesGroup)
+        data->picturesGroup->setButton(pictures.toInt());
+    if (data->pageSplitCombo)
+        data->pageSplitCombo->readXMLstring(xml);
+    const QString view = part(kViewTag);
+    if (data->viewGroup && !view.isNull())
+        data->viewGroup->setButton(view.toInt());
+    if (data->animator) {
+        vkd::dbo::setAnimatorPerspektive(0, part(kCameraTag));
+        emit signalBeobXY(AnimatorTakeCamera, 0.0);
+    }
+    data->tree->applySelection(part(kSelectionTag));
 }
 
 void VKD_P_WidgetGraphicalOutput::slotBeobXY(bool on)
 {
-    if (data->animator && on)
-        emit signalBeobXY(kPlaneXY, 0.0);
+    if (data->animator && on) {
+        emit signalBeobXY(AnimatorPlaneXY, 0.0);
+        data->animator->setEnabled(false);
+    }
 }
 
 void VKD_P_WidgetGraphicalOutput::slotBeobXZ(bool on)
 {
-    if (data->animator && on)
-        emit signalBeobXY(kPlaneXZ, 0.0);
+    if (data->animator && on) {
+        emit signalBeobXY(AnimatorPlaneXZ, 0.0);
+        data->animator->setEnabled(false);
+    }
 }
 
 void VKD_P_WidgetGraphicalOutput::slotBeobYZ(bool on)
 {
-    if (data->animator && on)
-        emit signalBeobXY(kPlaneYZ, 0.0);
+    if (data->animator && on) {
+        emit signalBeobXY(AnimatorPlaneYZ, 0.0);
+        data->animator->setEnabled(false);
+    }
 }
 
 void VKD_P_WidgetGraphicalOutput::slotBeob3D(bool on)
 {
-    if (data->animator && on)
-        emit signalBeobXY(kStandard3D, 0.0);
+    if (data->animator && on) {
+        emit signalBeobXY(AnimatorStandard3D, 0.0);
+        data->animator->setEnabled(false);
+    }
 }
 
+// Leaving "User defined" keeps the turned camera; the enabled state is left for the slot of the
+// newly chosen view.
 void VKD_P_WidgetGraphicalOutput::slotBeobAni(bool on)
 {
-    if (data->animator)
-        emit signalBeobXY(on ? kTakeCamera : kStoreCamera, 0.0);
+    if (!data->animator)
+        return;
+    emit signalBeobXY(on ? AnimatorTakeCamera : AnimatorStoreCamera, 0.0);
+    if (on)
+        data->animator->setEnabled(true);
 }
 
 void VKD_P_WidgetGraphicalOutput::slotCurrentChanged(QWidget* w)
