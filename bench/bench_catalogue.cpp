@@ -56,25 +56,24 @@ int main(int argc, char** argv)
     device.close();
     std::vector<GraphicalOutputRecord> records;
     int parts = 0;
-    harness.compare(
-        {QStringLiteral("parseCatalogue"), QStringLiteral("%1 lines").arg(lineCount),
-         QStringLiteral("readLine, UTF-8 decoding, split at |"),
-         [&] { parseCatalogue(device, records); },
-         [&] {
-             // The same reading as the parser's: one line buffer, lines up to its size.
-             char buffer[1024];
-             qint64 length;
-             while ((length = device.readLine(buffer, sizeof buffer)) > 0) {
-                 const QString line = QString::fromUtf8(buffer, int(length));
-                 parts += line.splitRef(QLatin1Char('|'), Qt::SkipEmptyParts).size();
-             }
-         },
-         1.5,
-         [&] {
-             records.clear();
-             rewind(device);
-         },
-         [&] { rewind(device); }});
+    harness.compare({QStringLiteral("parseCatalogue"), QStringLiteral("%1 lines").arg(lineCount),
+                     QStringLiteral("readLine, UTF-8 decoding, split at |"),
+                     [&] { parseCatalogue(device, records); },
+                     [&] {
+                         // The same reading as the parser's: one line buffer, lines up to its size.
+                         char buffer[1024];
+                         qint64 length;
+                         while ((length = device.readLine(buffer, sizeof buffer)) > 0) {
+                             const QString line = QString::fromUtf8(buffer, int(length));
+                             parts += line.splitRef(QLatin1Char('|'), Qt::SkipEmptyParts).size();
+                         }
+                     },
+                     1.5,
+                     [&] {
+                         records.clear();
+                         rewind(device);
+                     },
+                     [&] { rewind(device); }});
     if (records.size() != size_t(lineCount))
         std::fprintf(stderr, "%zu records of %d lines\n", records.size(), lineCount);
     return harness.finish();

@@ -3,6 +3,7 @@
 // plots of 500 rows. With --memory-of tree|bare it builds once and prints the peak memory.
 
 #include "GraphicalOutputTreeWidget.h"
+#include "benchcatalogue.h"
 #include "benchharness.h"
 #include "catalogue.h"
 #include "outputtreeicons.h"
@@ -18,49 +19,10 @@
 #include <cstring>
 
 using namespace vkd::plib::widgetgraphicaloutput;
+using bench::fillCatalogue;
+using bench::loadcases;
 
 namespace {
-
-constexpr int plotsPerCaption = 10;
-constexpr int captionsPerTop = 10;
-
-// Plots that bind to the load cases, the first row checked, every tenth asking for a view.
-void fillCatalogue(int plots)
-{
-    std::vector<GraphicalOutputRecord>& list = catalogueList();
-    list.clear();
-    for (int i = 0; i < plots; ++i) {
-        GraphicalOutputRecord r;
-        r.prog1 = 1;
-        const int caption = i / plotsPerCaption;
-        const int top = caption / captionsPerTop;
-        r.title1 = QStringLiteral("Results %1").arg(top);
-        r.title2 = QStringLiteral("Element group %1").arg(caption);
-        r.title3 = QStringLiteral("Plot %1").arg(i);
-        r.id1 = QStringLiteral("%1").arg(top, 7);
-        r.id2 = QStringLiteral("%1").arg(caption, 7);
-        r.id3 = QStringLiteral("%1").arg(i, 7);
-        r.contentTag = QStringLiteral("All");
-        r.caseWord = QStringLiteral("last-l");
-        r.ctrl = 1;
-        r.rowClass = 1;
-        r.rowMark = 1;
-        r.preselect = 1;
-        r.viewKind = i % 10 == 0 ? 3 : 0;
-        r.scriptGerman = QStringLiteral("QUAD SCHN M%1 ISOL $(FILLI)").arg(i);
-        r.scriptEnglish = QStringLiteral("QUAD FORC M%1 ISOL $(FILLI)").arg(i);
-        list.push_back(r);
-    }
-    catalogueLanguage = vkd_lib_getvalue(102);
-}
-
-std::vector<LoadcaseInformation> loadcases(int count)
-{
-    std::vector<LoadcaseInformation> rows;
-    for (int i = 1; i <= count; ++i)
-        rows.push_back({1, i, QStringLiteral("%1 : Load case %1").arg(i)});
-    return rows;
-}
 
 // The same items in a plain tree, built the cheapest way Qt offers: texts, check boxes and
 // icons, each top level subtree made before it enters the view.
@@ -256,6 +218,6 @@ int main(int argc, char** argv)
     const double bareMemory = memoryOf("bare", plots, rowsPerPlot);
     harness.report(QStringLiteral("peak memory of the built tree"), size,
                    QStringLiteral("the bare build, each in a process of its own"), ourMemory, bareMemory,
-                   "MB", 1.25);
+                   "MB", 1.25, 1);
     return harness.finish();
 }

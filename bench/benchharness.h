@@ -16,6 +16,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <malloc.h>
 #include <utility>
 #include <vector>
 
@@ -114,18 +115,21 @@ public:
         for (int run = 0; run < m_runs; ++run) {
             if (c.prepareOurs)
                 c.prepareOurs();
+            settleHeap();
             ours.push_back(milliseconds(c.ours));
             if (c.prepareBare)
                 c.prepareBare();
+            settleHeap();
             bare.push_back(milliseconds(c.bare));
         }
         report(c.operation, c.size, c.baseline, median(ours), median(bare), "ms", c.target);
     }
 
-    // A figure measured otherwise, such as memory.
+    // A figure measured otherwise, such as memory; runs 0 means as many as compare() makes.
     void report(const QString& operation, const QString& size, const QString& baseline, double ours,
-                double bare, const char* unit, double target)
+                double bare, const char* unit, double target, int runs = 0)
     {
+        runs = runs > 0 ? runs : m_runs;
         const double ratio = bare > 0.0 ? ours / bare : 0.0;
         const bool met = target <= 0.0 || ratio <= target;
         if (m_json) {
@@ -134,7 +138,7 @@ public:
                         "\"met\":%s,\"runs\":%d,\"quick\":%s}\n",
                         m_benchmark, jsonText(operation).constData(), jsonText(size).constData(),
                         jsonText(baseline).constData(), unit, ours, bare, ratio, target,
-                        met ? "true" : "false", m_runs, m_quick ? "true" : "false");
+                        met ? "true" : "false", runs, m_quick ? "true" : "false");
         } else {
             if (!m_headerPrinted) {
                 std::printf("%-36s %-24s %11s %11s %6s %7s  %s\n", m_benchmark, "size", "ours", "baseline",
@@ -159,6 +163,10 @@ public:
     }
 
 private:
+    // glibc merges freed small blocks only when a large one is asked for next: without this,
+    // what the run before freed would be paid for by the run timed now.
+    static void settleHeap() { malloc_trim(0); }
+
     static QByteArray jsonText(const QString& text)
     {
         QByteArray out;

@@ -181,6 +181,7 @@ private slots:
     void emptySelection();
     void tableRows();
     void tableChanges();
+    void unchangedTableAfterOtherRows();
     void additionalTag();
     void demoProject();
 };
@@ -462,6 +463,24 @@ void TestOutputPage::demoProject()
     QVERIFY(matchesReference(p.page->getTORVAL(true), QStringLiteral("page-demo-en.txt")));
     QVERIFY(matchesReference(p.page->getTORVAL(QStringLiteral("$ more"), false),
                              QStringLiteral("page-demo-de.txt")));
+}
+
+// Rows given to the page by other means do not survive a reset of an unchanged table.
+void TestOutputPage::unchangedTableAfterOtherRows()
+{
+    Page p;
+    VKD_H_TableWidget widget(1, 3);
+    widget.setItem(0, 0, new VKD_H_TwSimpleCheckBoxItem(true));
+    widget.setItem(0, 1, new VKD_H_TwSimpleLineEditItem(QStringLiteral("4")));
+    widget.setItem(0, 2, new QTableWidgetItem(QStringLiteral("Snow")));
+    VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
+    binding.setWidgets(p.page.get(), &widget, 1, 0, 2);
+    binding.reset();
+    p.page->setUsedNumbersAndNames({{1, 7, "other"}});
+    binding.reset();
+    QCOMPARE(p.rows(), QStringLiteral("4=4 : Snow+"));
+    widget.item(0, 2)->setText(QStringLiteral("Ice"));
+    QCOMPARE(p.rows(), QStringLiteral("4=4 : Ice+"));
 }
 
 QTEST_MAIN(TestOutputPage)

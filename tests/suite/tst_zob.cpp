@@ -67,6 +67,9 @@ private slots:
     void rejectedFilesStayUntouched_data();
     void rejectedFilesStayUntouched();
     void reopenKeepsRecords();
+    void walkSeesEveryChange_data();
+    void walkSeesEveryChange();
+    void appendAfterAnotherWriter();
 
 private:
     QTemporaryDir* m_dir = nullptr;
@@ -277,7 +280,8 @@ void TestZob::rejectedFilesStayUntouched()
     } else if (kind == QLatin1String("foreign")) {
         sqlite3* db = nullptr;
         QCOMPARE(sqlite3_open(QFile::encodeName(file).constData(), &db), SQLITE_OK);
-        QCOMPARE(sqlite3_exec(db, "CREATE TABLE t(x); INSERT INTO t VALUES(1);", nullptr, nullptr, nullptr), SQLITE_OK);
+        QCOMPARE(sqlite3_exec(db, "CREATE TABLE t(x); INSERT INTO t VALUES(1);", nullptr, nullptr, nullptr),
+                 SQLITE_OK);
         sqlite3_close(db);
     } else {
         {
@@ -317,6 +321,68 @@ void TestZob::reopenKeepsRecords()
     QVERIFY(m_doc->isValid());
     QCOMPARE(readAll(m_doc->index()).size(), 5);
     QCOMPARE(readAll(m_doc->index()).last(), record(4));
+}
+
+// A reader that walks a key pair position by position sees every change made between two of its
+// steps, by this connection or by another one.
+void TestZob::walkSeesEveryChange_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QByteArrayList>("expected");
+    const QByteArrayList three{record(0), record(1), record(2)};
+    QTest::newRow("none") << QString() << three;
+    QTest::newRow("append") << QStringLiteral("append") << (three + QByteArrayList{record(9)});
+    QTest::newRow("replace by one") << QStringLiteral("replace") << QByteArrayList{record(0), record(1)};
+    QTest::newRow("append by another connection")
+        << QStringLiteral("other") << (three + QByteArrayList{record(9)});
+    QTest::newRow("another key pair read") << QStringLiteral("other key") << three;
+}
+
+void TestZob::walkSeesEveryChange()
+{
+    QFETCH(QString, change);
+    QFETCH(QByteArrayList, expected);
+    const int index = m_doc->index();
+    put(index, record(0), 0);
+    put(index, record(1), 1);
+    put(index, record(2), 1);
+    VKD_H_ZOBDoc other(path(), VKD_H_ZOBDoc::OpenExisting);
+    QByteArrayList seen;
+    for (int pos = 0;; ++pos) {
+        char buffer[64];
+        int length = sizeof buffer;
+        if (vkd_zob_get(index, 200, 6, buffer, &length, pos) >= ZOB_END)
+            break;
+        seen << QByteArray(buffer, length);
+        if (pos != 1)
+            continue;
+        if (change == QLatin1String("append"))
+            put(index, record(9), 1);
+        else if (change == QLatin1String("replace"))
+            put(index, record(7), 0);
+        else if (change == QLatin1String("other"))
+            put(other.index(), record(9), 1);
+        else if (change == QLatin1String("other key"))
+            QCOMPARE(readAll(index, 200, 7), QByteArrayList());
+    }
+    QCOMPARE(seen, expected);
+}
+
+// Appends inside a lock go on behind whatever another connection appended before the lock.
+void TestZob::appendAfterAnotherWriter()
+{
+    const int index = m_doc->index();
+    VKD_H_ZOBDoc other(path(), VKD_H_ZOBDoc::OpenExisting);
+    QCOMPARE(vkd_zob_lock_ex(index, 200, 6), ZOB_OK);
+    put(index, record(0), 0);
+    put(index, record(1), 1);
+    vkd_zob_free_ex(index, 200, 6);
+    put(other.index(), record(2), 1);
+    QCOMPARE(vkd_zob_lock_ex(index, 200, 6), ZOB_OK);
+    put(index, record(3), 1);
+    vkd_zob_free_ex(index, 200, 6);
+    put(index, record(4), 1);
+    QCOMPARE(readAll(other.index()), (QByteArrayList{record(0), record(1), record(2), record(3), record(4)}));
 }
 
 QTEST_GUILESS_MAIN(TestZob)

@@ -10,6 +10,7 @@
 #include <cstring>
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 namespace {
 
@@ -80,6 +81,7 @@ public:
 
     void beginWrite(int key1, int key2)
     {
+        forgetAppend();
         writeOpen = true;
         writeKey1 = key1;
         writeKey2 = key2;
@@ -123,6 +125,8 @@ public:
     // Lands the write whole if nothing in it failed, and not at all otherwise.
     void endWrite()
     {
+        endWalk();
+        forgetAppend();
         writeOpen = false;
         if (sqlite3_get_autocommit(m_db))
             return; // the lock was never taken
@@ -132,6 +136,39 @@ public:
             failFromDatabase();
         execScript(m_db, "ROLLBACK");
     }
+
+    // Readers walk a key pair position by position. After its first two steps a walk is served
+    // from batches of records read in position order, instead of a lookup per position. No
+    // statement stays open between calls: an open read would hold the file's shared lock and
+    // keep other programs from writing. A walk sees the records of a batch as they stood when
+    // the batch was read; any other call on the database ends the walk, so that it never
+    // misses a change of this connection.
+    struct Buffered
+    {
+        int position;
+        QByteArray data;
+    };
+    struct Walk
+    {
+        int key1 = 0;
+        int key2 = 0;
+        int lastPosition = -1; // -1: no walk
+        std::vector<Buffered> batch;
+        size_t next = 0;
+    };
+    Walk walk;
+    void endWalk() { walk = Walk(); }
+
+    // Inside a write no one else writes, so the next free position of the key pair last
+    // appended to holds until the write ends.
+    struct Append
+    {
+        int key1 = 0;
+        int key2 = 0;
+        int nextPos = -1; // -1: not known
+    };
+    Append append;
+    void forgetAppend() { append = Append(); }
 
 private:
     sqlite3* m_db;
@@ -271,6 +308,33 @@ zob_status_t markKey(Database* d, int key1, int key2)
     const zob_status_t status = stepStatus(sqlite3_step(st));
     sqlite3_reset(st);
     return status;
+}
+
+// Records a walk serves from one read.
+constexpr int kWalkBatch = 512;
+
+// The next batch of a walk: the records from position on, in position order.
+void readBatch(Database* d, int key1, int key2, int position)
+{
+    Database::Walk& walk = d->walk;
+    walk.batch.clear();
+    walk.next = 0;
+    sqlite3_stmt* st = d->statement("SELECT pos, data FROM zob_record WHERE key1=?1 AND key2=?2 AND pos>=?3"
+                                    " ORDER BY pos LIMIT ?4");
+    if (!st)
+        return;
+    sqlite3_bind_int(st, 1, key1);
+    sqlite3_bind_int(st, 2, key2);
+    sqlite3_bind_int(st, 3, position);
+    sqlite3_bind_int(st, 4, kWalkBatch);
+    int rc;
+    while ((rc = sqlite3_step(st)) == SQLITE_ROW)
+        walk.batch.push_back(
+            {sqlite3_column_int(st, 0),
+             QByteArray(static_cast<const char*>(sqlite3_column_blob(st, 1)), sqlite3_column_bytes(st, 1))});
+    sqlite3_reset(st);
+    if (rc != SQLITE_DONE)
+        walk.batch.clear(); // the lookup of the position reports the error
 }
 
 bool keyKnown(Database* d, int key1, int key2)
@@ -423,6 +487,24 @@ zob_status_t vkd_zob_get(int index, int key1, int key2, void* record, int* lengt
     Database* d = database(index);
     if (!d)
         return ZOB_NO_DATABASE;
+    Database::Walk& walk = d->walk;
+    const bool continues =
+        walk.lastPosition >= 0 && walk.key1 == key1 && walk.key2 == key2 && position == walk.lastPosition + 1;
+    if (!continues)
+        d->endWalk();
+    if (continues && walk.next >= walk.batch.size())
+        readBatch(d, key1, key2, position);
+    if (continues && walk.next < walk.batch.size() && walk.batch[walk.next].position == position) {
+        const QByteArray& data = walk.batch[walk.next++].data;
+        const int copied = qMin(data.size(), *length);
+        if (copied > 0)
+            std::memcpy(record, data.constData(), size_t(copied));
+        *length = copied;
+        walk.lastPosition = position;
+        return data.size() > copied ? ZOB_TRUNCATED : ZOB_OK;
+    }
+    if (continues)
+        d->endWalk(); // the end, a gap or an error: the lookup below tells which
     sqlite3_stmt* st = d->statement("SELECT data FROM zob_record WHERE key1=?1 AND key2=?2 AND pos=?3");
     if (!st)
         return ZOB_FAILED;
@@ -437,6 +519,9 @@ zob_status_t vkd_zob_get(int index, int key1, int key2, void* record, int* lengt
             std::memcpy(record, sqlite3_column_blob(st, 0), size_t(copied));
         *length = copied;
         sqlite3_reset(st);
+        walk.key1 = key1;
+        walk.key2 = key2;
+        walk.lastPosition = position;
         return size > copied ? ZOB_TRUNCATED : ZOB_OK;
     }
     sqlite3_reset(st);
@@ -452,6 +537,7 @@ zob_status_t vkd_zob_put(int index, int key1, int key2, const void* record, cons
     Database* d = database(index);
     if (!d)
         return ZOB_NO_DATABASE;
+    d->endWalk();
     // Outside a lock the put is a write of its own, whose statements land together. Inside a
     // write that has failed already it is refused, so that nothing of that write lands.
     const bool single = !d->writeOpen;
@@ -466,9 +552,14 @@ zob_status_t vkd_zob_put(int index, int key1, int key2, const void* record, cons
         return d->writeStatus;
     }
 
-    zob_status_t status = markKey(d, key1, key2);
+    Database::Append& append = d->append;
+    const bool appendKnown =
+        position == 1 && append.nextPos >= 0 && append.key1 == key1 && append.key2 == key2;
+    zob_status_t status = appendKnown ? ZOB_OK : markKey(d, key1, key2);
     int nextPos = 0;
-    if (status == ZOB_OK && position == 0) {
+    if (appendKnown) {
+        nextPos = append.nextPos; // the key pair was marked by the append before
+    } else if (status == ZOB_OK && position == 0) {
         sqlite3_stmt* del = d->statement("DELETE FROM zob_record WHERE key1=?1 AND key2=?2");
         if (!del) {
             status = ZOB_FAILED;
@@ -503,6 +594,15 @@ zob_status_t vkd_zob_put(int index, int key1, int key2, const void* record, cons
             status = stepStatus(sqlite3_step(ins));
             sqlite3_reset(ins);
         }
+        if (status == ZOB_OK)
+            ++nextPos;
+    }
+    if (status == ZOB_OK && !single) {
+        append.key1 = key1;
+        append.key2 = key2;
+        append.nextPos = nextPos;
+    } else {
+        d->forgetAppend();
     }
     if (status != ZOB_OK)
         d->fail(status);
@@ -516,6 +616,7 @@ zob_status_t vkd_zob_lock_ex(int index, int key1, int key2)
     Database* d = database(index);
     if (!d)
         return ZOB_NO_DATABASE;
+    d->endWalk();
     if (d->writeOpen)
         return d->writeStatus; // a lock inside the present write joins it
     d->beginWrite(key1, key2);
@@ -527,7 +628,10 @@ void vkd_zob_free_ex(int index, int key1, int key2)
     // Only the free of the key pair that began the write ends it; readers free their own key
     // pair whether they locked it or not.
     Database* d = database(index);
-    if (d && d->writeOpen && key1 == d->writeKey1 && key2 == d->writeKey2)
+    if (!d)
+        return;
+    d->endWalk();
+    if (d->writeOpen && key1 == d->writeKey1 && key2 == d->writeKey2)
         d->endWrite();
 }
 
@@ -537,11 +641,13 @@ void vkd_zob_kenq_ex(int index, int* key1, int* key2, int mode)
         return;
     Database* d = database(index);
     sqlite3_stmt* st = nullptr;
-    if (d)
+    if (d) {
+        d->endWalk();
         st =
             d->statement(mode == 1 ? "SELECT key1, key2 FROM zob_record WHERE key1=?1 AND key2>=?2 AND pos=0"
                                      " ORDER BY key2 LIMIT 1"
                                    : "SELECT key1, key2 FROM zob_record WHERE key1=?1 AND key2=?2 AND pos=0");
+    }
     if (st) {
         sqlite3_bind_int(st, 1, *key1);
         sqlite3_bind_int(st, 2, *key2);
@@ -562,6 +668,7 @@ int vkd_zob_count(int index, int key1, int key2)
     Database* d = database(index);
     if (!d)
         return 0;
+    d->endWalk();
     sqlite3_stmt* st = d->statement("SELECT count(*) FROM zob_record WHERE key1=?1 AND key2=?2");
     if (!st)
         return 0;

@@ -8,6 +8,8 @@
 #include <VKD_H_TableWidget.h>
 #include <VKD_H_TwSimpleItems.h>
 
+#include <algorithm>
+
 using namespace vkd::plib::widgetgraphicaloutput;
 
 struct TableWidgetDataRecord
@@ -17,7 +19,23 @@ struct TableWidgetDataRecord
     int checkColumn = 0;
     int titleColumn = 0;
     GraphicalOutputTreeWidget* tree = nullptr;
+    // What the table held at the last reset and the rows made of it: a host reports every
+    // edit of any cell, and most leave the load cases as they were.
+    std::vector<TableLoadcase> lastCases;
+    std::vector<LoadcaseInformation> lastRows;
 };
+
+namespace {
+
+bool sameCases(const std::vector<TableLoadcase>& a, const std::vector<TableLoadcase>& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](const TableLoadcase& x, const TableLoadcase& y) {
+                          return x.value == y.value && x.title == y.title;
+                      });
+}
+
+} // namespace
 
 VKD_P_WidgetGraphicalOutput_TableWidgetData::VKD_P_WidgetGraphicalOutput_TableWidgetData()
     : data(new TableWidgetDataRecord)
@@ -65,5 +83,11 @@ void VKD_P_WidgetGraphicalOutput_TableWidgetData::reset()
             data->titleColumn >= 0 ? data->table->item(row, data->titleColumn) : nullptr;
         cases.push_back({number->getVal(nullptr), title ? title->text() : QString()});
     }
-    data->tree->setUsedNumbersAndNames(loadcaseRows(cases));
+    if (!sameCases(cases, data->lastCases)) {
+        data->lastRows = loadcaseRows(cases);
+        data->lastCases = std::move(cases);
+    }
+    // The tree is given the rows even when the table is unchanged: it may have been given
+    // others in between, and it ignores rows equal to its own.
+    data->tree->setUsedNumbersAndNames(data->lastRows);
 }

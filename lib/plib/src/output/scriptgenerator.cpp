@@ -62,8 +62,8 @@ QString splitResult(const OutputSettings& settings, const QString& additional, b
     } else {
         division.clear();
     }
-    QString result = QStringLiteral("SIZE ") + kind + scaleWord + QLatin1Char(' ') + division
-                     + QLatin1Char('|') + QStringLiteral("SIZE ") + kind + QStringLiteral("$(XYZ) ") + division;
+    QString result = QStringLiteral("SIZE ") + kind + scaleWord + QLatin1Char(' ') + division +
+                     QLatin1Char('|') + QStringLiteral("SIZE ") + kind + QStringLiteral("$(XYZ) ") + division;
     if (!additional.isEmpty())
         result += additional + QLatin1Char('\n');
     return result;
@@ -72,7 +72,11 @@ QString splitResult(const OutputSettings& settings, const QString& additional, b
 // The plot lines, each with its view replaced by the page's one unless that is the 3D standard.
 QString body(const OutputSettings& settings, const std::vector<QString>& plotLines, const QString& view)
 {
+    int size = 0;
+    for (const QString& line : plotLines)
+        size += line.size() + 1;
     QString out;
+    out.reserve(size);
     for (const QString& line : plotLines) {
         const int at = settings.viewId == View3DStandard ? -1 : line.indexOf(QLatin1String("EG3"));
         if (at > 0)
@@ -137,25 +141,26 @@ QString pageSetup(const OutputSettings& settings, bool english)
         scale = QStringLiteral("-");
     else
         // The factor stands in the script as text: GRAV reads the ratio in its own units.
-        scale = settings.scaleText.mid(settings.scaleText.indexOf(QLatin1Char(':')) + 1)
-                + QStringLiteral("*1.e+10");
-    return head + QStringLiteral("SIZE ") + sheet + QLatin1String(english ? " SC " : " M ") + scale + split
-           + QLatin1String(english ? " MARG NO FORM STAN" : " RAND NEIN FORM STAN");
+        scale = settings.scaleText.mid(settings.scaleText.indexOf(QLatin1Char(':')) + 1) +
+                QStringLiteral("*1.e+10");
+    return head + QStringLiteral("SIZE ") + sheet + QLatin1String(english ? " SC " : " M ") + scale + split +
+           QLatin1String(english ? " MARG NO FORM STAN" : " RAND NEIN FORM STAN");
 }
 
 QString fillDefinitions(bool fill, bool english)
 {
     if (!fill)
-        return QStringLiteral("#define FILL=-\n#define FILLI=-\n#define FILLC=-\n#define SCHRI=-\n#define SCHRC=-\n");
-    if (english)
         return QStringLiteral(
-            "#define FILL=VERT\n#define FILLI=AREA\n#define FILLC=VERT\n#define SCHRI=NO\n#define SCHRC=NO\n");
-    return QStringLiteral(
-        "#define FILL=SENK\n#define FILLI=FLAE\n#define FILLC=SENK\n#define SCHRI=NEIN\n#define SCHRC=NEIN\n");
+            "#define FILL=-\n#define FILLI=-\n#define FILLC=-\n#define SCHRI=-\n#define SCHRC=-\n");
+    if (english)
+        return QStringLiteral("#define FILL=VERT\n#define FILLI=AREA\n#define FILLC=VERT\n#define "
+                              "SCHRI=NO\n#define SCHRC=NO\n");
+    return QStringLiteral("#define FILL=SENK\n#define FILLI=FLAE\n#define FILLC=SENK\n#define "
+                          "SCHRI=NEIN\n#define SCHRC=NEIN\n");
 }
 
-QString script(const OutputSettings& settings, const std::vector<QString>& plotLines, const QString& additional,
-               bool english, const ScriptEnvironment& environment)
+QString script(const OutputSettings& settings, const std::vector<QString>& plotLines,
+               const QString& additional, bool english, const ScriptEnvironment& environment)
 {
     if (settings.variant == GraphicalOutputSplit)
         return splitResult(settings, additional, english);
@@ -168,6 +173,9 @@ QString script(const OutputSettings& settings, const std::vector<QString>& plotL
         plots.prepend(additional);
 
     QString out = environment.programStart();
+    // The plot lines are nearly all of the script; the lines around them are short.
+    constexpr int frameReserve = 2048;
+    out.reserve(out.size() + plots.size() + additional.size() + frameReserve);
     out += QLatin1String(english ? controlLinesEnglish : controlLinesGerman);
     out += QStringLiteral("#define SCHR=") + fontNumber(settings) + QLatin1Char('\n');
     out += fontStatement(settings, english) + QLatin1Char('\n');
