@@ -407,49 +407,56 @@ void DesignParameter::slot_editCellWidget()
     editColumn = col;
 }
 
+namespace {
+
+// Shows a design dialog on a row's record and writes it back only on OK.
+template <typename Dialog> bool confirmed(Dialog& dialog, tagZOB_QUAD_RIM* record)
+{
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    dialog.writeToRecord(record);
+    return true;
+}
+
+} // namespace
+
+int DesignParameter::currentDesignRow() const
+{
+    const int r = data->table ? data->table->currentRow() : -1;
+    return isRowNumber(r) ? r : -1;
+}
+
 void DesignParameter::slot_editButtonClicked()
 {
-    if (!data->table)
+    const int r = currentDesignRow();
+    if (r < 0)
         return;
-    const int r = data->table->currentRow();
-    if (!isRowNumber(r))
-        return;
-    DesignParameterRow& row = rowAt(r);
-    dlgDistanceDirection dialog(&row.record, this);
-    if (dialog.exec() == QDialog::Accepted) {
-        dialog.writeToRecord(&row.record);
+    tagZOB_QUAD_RIM* record = &rowAt(r).record;
+    dlgDistanceDirection dialog(record, this);
+    if (confirmed(dialog, record))
         refreshRows(r);
-    }
 }
 
 void DesignParameter::slot_calcReinforcementButtonClicked()
 {
-    if (!data->table)
-        return;
-    const int r = data->table->currentRow();
-    if (!isRowNumber(r))
+    const int r = currentDesignRow();
+    if (r < 0)
         return;
     tagZOB_QUAD_RIM* record = &rowAt(r).record;
     dlgReinforcement dialog(indexOf(data->doc), record, this);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    dialog.writeToRecord(record);
-    refreshRows(r);
+    if (confirmed(dialog, record))
+        refreshRows(r);
 }
 
 void DesignParameter::slot_calcCrackButtonClicked()
 {
-    if (!data->table)
-        return;
-    const int r = data->table->currentRow();
-    if (!isRowNumber(r))
+    const int r = currentDesignRow();
+    if (r < 0)
         return;
     tagZOB_QUAD_RIM* record = &rowAt(r).record;
     dlgCrackControl dialog(record, this);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    dialog.writeToRecord(record);
-    refreshRows(r);
+    if (confirmed(dialog, record))
+        refreshRows(r);
 }
 
 bool DesignParameter::hasRemainingRow() const

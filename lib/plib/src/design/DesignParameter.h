@@ -61,6 +61,8 @@ private:
 
     void buildTable();
     bool isRowNumber(int number) const;
+    // The row of the table's current cell; -1 if there is none.
+    int currentDesignRow() const;
     // The row with this number, its group list sorted first.
     DesignParameterRow& rowAt(int number);
     void drawRow(const DesignParameterRow& row, int number, bool isNew);
