@@ -1,7 +1,10 @@
 // The output tree at the size of a large project: plots with hundreds of load case rows each.
-// Usage: bench_outputtree [plots [rows per plot]], by default 300 plots of 500 rows.
+// Usage: bench_outputtree [--quick] [--json] [--runs N] [plots [rows per plot]], by default 300
+// plots of 500 rows. With --memory-of tree|bare it builds once and prints the peak memory.
 
 #include "GraphicalOutputTreeWidget.h"
+#include "benchcatalogue.h"
+#include "benchharness.h"
 #include "catalogue.h"
 #include "outputtreeicons.h"
 
@@ -9,48 +12,17 @@
 #include <vkd_q.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
+#include <QProcess>
 #include <QTreeWidget>
 
 #include <cstdio>
-#include <functional>
+#include <cstring>
 
 using namespace vkd::plib::widgetgraphicaloutput;
+using bench::fillCatalogue;
+using bench::loadcases;
 
 namespace {
-
-constexpr int plotsPerCaption = 10;
-constexpr int captionsPerTop = 10;
-
-// Plots that bind to the load cases, the first row checked, every tenth asking for a view.
-void fillCatalogue(int plots)
-{
-    std::vector<GraphicalOutputRecord>& list = catalogueList();
-    list.clear();
-    for (int i = 0; i < plots; ++i) {
-        GraphicalOutputRecord r;
-        r.prog1 = 1;
-        const int caption = i / plotsPerCaption;
-        const int top = caption / captionsPerTop;
-        r.title1 = QStringLiteral("Results %1").arg(top);
-        r.title2 = QStringLiteral("Element group %1").arg(caption);
-        r.title3 = QStringLiteral("Plot %1").arg(i);
-        r.id1 = QStringLiteral("%1").arg(top, 7);
-        r.id2 = QStringLiteral("%1").arg(caption, 7);
-        r.id3 = QStringLiteral("%1").arg(i, 7);
-        r.contentTag = QStringLiteral("All");
-        r.caseWord = QStringLiteral("last-l");
-        r.ctrl = 1;
-        r.rowClass = 1;
-        r.rowMark = 1;
-        r.preselect = 1;
-        r.viewKind = i % 10 == 0 ? 3 : 0;
-        r.scriptGerman = QStringLiteral("QUAD SCHN M%1 ISOL $(FILLI)").arg(i);
-        r.scriptEnglish = QStringLiteral("QUAD FORC M%1 ISOL $(FILLI)").arg(i);
-        list.push_back(r);
-    }
-    catalogueLanguage = vkd_lib_getvalue(102);
-}
 
 // The same items in a plain tree, built the cheapest way Qt offers: texts, check boxes and
 // icons, each top level subtree made before it enters the view.
@@ -89,20 +61,94 @@ void bareBuild(QTreeWidget& tree, const std::vector<LoadcaseInformation>& rows)
     tree.addTopLevelItems(tops);
 }
 
-double milliseconds(const std::function<void()>& work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return double(timer.nsecsElapsed()) / 1e6;
-}
-
 int itemCount(const QTreeWidgetItem* item)
 {
     int n = 1;
     for (int i = 0; i < item->childCount(); ++i)
         n += itemCount(item->child(i));
     return n;
+}
+
+void forEachItem(QTreeWidget& tree, const std::function<void(QTreeWidgetItem*)>& visit)
+{
+    std::function<void(QTreeWidgetItem*)> walk = [&](QTreeWidgetItem* item) {
+        visit(item);
+        for (int i = 0; i < item->childCount(); ++i)
+            walk(item->child(i));
+    };
+    for (int i = 0; i < tree.topLevelItemCount(); ++i)
+        walk(tree.topLevelItem(i));
+}
+
+std::vector<QTreeWidgetItem*> plotsOf(QTreeWidget& tree)
+{
+    std::vector<QTreeWidgetItem*> plots;
+    for (int i = 0; i < tree.topLevelItemCount(); ++i)
+        for (int j = 0; j < tree.topLevelItem(i)->childCount(); ++j)
+            for (int k = 0; k < tree.topLevelItem(i)->child(j)->childCount(); ++k)
+                plots.push_back(tree.topLevelItem(i)->child(j)->child(k));
+    return plots;
+}
+
+// Every other plot fully checked, the rest with every other row: a choice that names plots
+// and rows.
+void mixedChoice(QTreeWidget& tree)
+{
+    const std::vector<QTreeWidgetItem*> plots = plotsOf(tree);
+    for (size_t p = 0; p < plots.size(); ++p) {
+        if (p % 2 == 0) {
+            plots[p]->setCheckState(0, Qt::Checked);
+            continue;
+        }
+        for (int r = 0; r < plots[p]->childCount(); ++r)
+            plots[p]->child(r)->setCheckState(0, r % 2 ? Qt::Checked : Qt::Unchecked);
+    }
+}
+
+// The growth of peak memory while one tree is built, in kB: run in a process of its own so
+// that neither build sees the other's freed memory.
+int printMemoryOf(const char* which, int plots, int rowsPerPlot)
+{
+    fillCatalogue(plots);
+    const std::vector<LoadcaseInformation> rows = loadcases(rowsPerPlot);
+    const long before = bench::statusKiB("VmRSS");
+    VKD_H_PluginParameter parameter;
+    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
+    QTreeWidget bare;
+    if (!std::strcmp(which, "tree"))
+        tree.setUsedNumbersAndNames(rows);
+    else
+        bareBuild(bare, rows);
+    std::printf("%ld\n", bench::statusKiB("VmHWM") - before);
+    return 0;
+}
+
+double memoryOf(const char* which, int plots, int rowsPerPlot)
+{
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(),
+                {QStringLiteral("--memory-of"), QString::fromLatin1(which), QString::number(plots),
+                 QString::number(rowsPerPlot)});
+    if (!child.waitForFinished(-1) || child.exitCode() != 0)
+        return 0.0;
+    return child.readAllStandardOutput().trimmed().toDouble() / 1024.0;
+}
+
+// Restoring a choice that names rows one by one, under plots of many or of few rows.
+double restoreRowByRow(bench::Harness& harness, int plots, int rowsPerPlot)
+{
+    fillCatalogue(plots);
+    VKD_H_PluginParameter parameter;
+    GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
+    tree.setUsedNumbersAndNames(loadcases(rowsPerPlot));
+    for (QTreeWidgetItem* plot : plotsOf(tree))
+        for (int r = 0; r < plot->childCount(); ++r)
+            plot->child(r)->setCheckState(0, r % 2 ? Qt::Checked : Qt::Unchecked);
+    const QString text = tree.selectionText();
+    std::vector<double> times;
+    for (int run = 0; run < harness.runs(); ++run)
+        times.push_back(bench::milliseconds([&] { tree.applySelection(text); }));
+    return bench::median(times);
 }
 
 } // namespace
@@ -112,60 +158,66 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    const int plots = argc > 1 ? atoi(argv[1]) : 300;
-    const int rowsPerPlot = argc > 2 ? atoi(argv[2]) : 500;
+    if (argc == 5 && !std::strcmp(argv[1], "--memory-of"))
+        return printMemoryOf(argv[2], atoi(argv[3]), atoi(argv[4]));
+
+    bench::Harness harness("output tree", argc, argv);
+    const auto& rest = harness.rest();
+    const int plots = rest.size() > 0 ? atoi(rest[0]) : harness.size(300, 10);
+    const int rowsPerPlot = rest.size() > 1 ? atoi(rest[1]) : harness.size(500, 20);
     if (plots <= 0 || rowsPerPlot < 0) {
-        std::fprintf(stderr, "usage: %s [plots [rows per plot]]\n", argv[0]);
+        std::fprintf(stderr, "usage: %s [--quick] [--json] [--runs N] [plots [rows per plot]]\n", argv[0]);
         return 2;
     }
     fillCatalogue(plots);
-    std::vector<LoadcaseInformation> rows;
-    for (int i = 1; i <= rowsPerPlot; ++i)
-        rows.push_back({1, i, QStringLiteral("%1 : Load case %1").arg(i)});
+    const std::vector<LoadcaseInformation> rows = loadcases(rowsPerPlot);
 
-    // The baseline twice, so that the second build also clears the first, as a rebuild does.
     QTreeWidget bare;
-    bareBuild(bare, rows);
-    const double baseline = milliseconds([&] { bareBuild(bare, rows); });
-
     VKD_H_PluginParameter parameter;
     GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
     tree.setUsedNumbersAndNames(rows);
     int items = 0;
     for (int i = 0; i < tree.topLevelItemCount(); ++i)
         items += itemCount(tree.topLevelItem(i));
+    const QString size = QStringLiteral("%1 x %2, %3 items").arg(plots).arg(rowsPerPlot).arg(items);
+    const QString bareText = QStringLiteral("bare build of the same items");
 
-    struct Figure
-    {
-        const char* what;
-        double ms;
-    };
-    std::vector<Figure> figures;
-    figures.push_back({"rebuild with defaults", milliseconds([&] { tree.rebuild(true); })});
-    // Every other plot fully checked; the rest keep their first row, so they are stored by
-    // number.
-    int plotIndex = 0;
-    for (int i = 0; i < tree.topLevelItemCount(); ++i)
-        for (int j = 0; j < tree.topLevelItem(i)->childCount(); ++j)
-            for (int k = 0; k < tree.topLevelItem(i)->child(j)->childCount(); ++k)
-                if (plotIndex++ % 2 == 0)
-                    tree.topLevelItem(i)->child(j)->child(k)->setCheckState(0, Qt::Checked);
-    QString text;
-    figures.push_back({"selection text", milliseconds([&] { text = tree.selectionText(); })});
-    figures.push_back({"apply selection", milliseconds([&] { tree.applySelection(text); })});
-    figures.push_back({"rebuild keeping the choice", milliseconds([&] { tree.rebuild(false); })});
-    std::vector<QString> lines;
-    figures.push_back({"script lines", milliseconds([&] { tree.collectScriptLines(lines, true); })});
-    for (int i = 0; i < tree.topLevelItemCount(); ++i)
-        tree.topLevelItem(i)->setCheckState(0, Qt::Checked);
-    figures.push_back(
-        {"script lines, all checked", milliseconds([&] { tree.collectScriptLines(lines, true); })});
+    // Each bare build also clears the one before, as a rebuild does.
+    const auto bareWork = [&] { bareBuild(bare, rows); };
+    harness.compare(
+        {QStringLiteral("rebuild(true)"), size, bareText, [&] { tree.rebuild(true); }, bareWork, 1.25});
 
-    std::printf("output tree: %d plots, %d rows each, %d items\n", plots, rowsPerPlot, items);
-    std::printf("%-30s %10.1f ms\n", "baseline: bare build", baseline);
-    for (const Figure& f : figures)
-        std::printf("%-30s %10.1f ms   ratio %5.2f   %6.2f us per item\n", f.what, f.ms, f.ms / baseline,
-                    1000.0 * f.ms / items);
-    std::printf("script lines: %zu\n", lines.size());
-    return 0;
+    mixedChoice(tree);
+    tree.applySelection(tree.selectionText());
+    harness.compare({QStringLiteral("rebuild keeping the choice"), size, bareText,
+                     [&] { tree.rebuild(false); }, bareWork, 1.5});
+
+    bareBuild(bare, rows);
+    mixedChoice(bare);
+    std::vector<Qt::CheckState> states;
+    harness.compare(
+        {QStringLiteral("selectionText + applySelection"), size,
+         QStringLiteral("one walk reading, one setting check states"),
+         [&] { tree.applySelection(tree.selectionText()); },
+         [&] {
+             states.clear();
+             forEachItem(bare, [&](QTreeWidgetItem* item) { states.push_back(item->checkState(0)); });
+             size_t i = 0;
+             forEachItem(bare, [&](QTreeWidgetItem* item) { item->setCheckState(0, states[i++]); });
+         },
+         1.5});
+
+    const int restoredRows = harness.size(60000, 600);
+    const double fewPlots = restoreRowByRow(harness, 3, restoredRows / 3);
+    const double manyPlots = restoreRowByRow(harness, 60, restoredRows / 60);
+    harness.report(QStringLiteral("restore a choice row by row"),
+                   QStringLiteral("%1 rows under 3 plots").arg(restoredRows),
+                   QStringLiteral("the same under 60 plots"), fewPlots, manyPlots, "ms", 2.0);
+
+    const double ourMemory = memoryOf("tree", plots, rowsPerPlot);
+    const double bareMemory = memoryOf("bare", plots, rowsPerPlot);
+    harness.report(QStringLiteral("peak memory of the built tree"), size,
+                   QStringLiteral("the bare build, each in a process of its own"), ourMemory, bareMemory,
+                   "MB", 1.25, 1);
+    return harness.finish();
 }

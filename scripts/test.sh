@@ -5,3 +5,4 @@ cd "$(dirname "$0")/.."
 bash scripts/build.sh
 cd build
 QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2
+bash ../scripts/test-install.sh

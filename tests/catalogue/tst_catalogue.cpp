@@ -126,6 +126,35 @@ private slots:
         QCOMPARE(columnsOf(parseText(text)), (QStringList{joined(head), joined(tail)}));
     }
 
+    // A line's record does not depend on the lines before it (all lines here have 15 columns), also
+    // where it repeats fields of its neighbours or of a dropped line.
+    void linesReadTogetherAsAlone()
+    {
+        const QList<QByteArray> lines{
+            "3|0|0|Results|Nodes|Displacement|Node|7|last-l|1|1|x|0|G1|E1\n",
+            "3|0|0|Results|Nodes|Displacement|Quad|8|desi-e|2|0|x|0|G2|E2\n",
+            "3|0|0|Other|Beams|Moments|Beam|9|beam| 0 |0|y|0| |dropped\n",
+            "3|0|0|Results|Beams|@AB1 Shown|Beam|9|beam|0|0|y|0|G3|E3\n",
+            "3|0|0|Results|Beams|Displacement|Beam|9|beam|0|0|y|0|G4|E4\n",
+            "3|0|0| |Beams|Displacement|All|9|other|0|0| |0|G5|E5\n",
+        };
+        auto described = [](const std::vector<GraphicalOutputRecord>& records) {
+            QStringList out;
+            for (const GraphicalOutputRecord& r : records)
+                out << columns(r) + QStringLiteral(" ids '%1' '%2' '%3' ctrl %4 class %5 mark %6")
+                                        .arg(r.id1, r.id2, r.id3)
+                                        .arg(r.ctrl)
+                                        .arg(r.rowClass)
+                                        .arg(r.rowMark);
+            return out;
+        };
+        QStringList alone;
+        for (const QByteArray& l : lines)
+            alone += described(parseText(l));
+        QCOMPARE(alone.size(), 5);
+        QCOMPARE(described(parseText(lines.join())), alone);
+    }
+
     void captions_data()
     {
         // The field stands in all three caption columns; the texts of the keys are those of

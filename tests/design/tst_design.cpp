@@ -449,7 +449,7 @@ private slots:
         QTest::newRow("empty") << Groups{} << "None";
         QTest::newRow("remaining groups") << Groups{-1} << "Remaining Groups";
         QTest::newRow("-1 among others") << Groups{-1, 4} << "-1;4";
-        QTest::newRow("1000000 is a name") << Groups{1000000} << QString::fromLatin1("@B\x0F");
+        QTest::newRow("1000000 is a name") << Groups{1000000} << QStringLiteral("@B\\x0f");
         QTest::newRow("blanks around a name go") << Groups{packed(' ', 'S', ' ', ' '), 2} << "S;2";
         QTest::newRow("zero byte ends the name") << Groups{packed('A', 'B', 0, 'C')} << "AB";
         QTest::newRow("four characters") << Groups{packed('W', 'A', 'L', 'L')} << "WALL";
@@ -490,6 +490,7 @@ private slots:
         const QString demo = m_dir.filePath(QStringLiteral("demo.vkd")), odd = m_doc->path();
         QCOMPARE(runTool(QStringLiteral("create"), demo), QStringLiteral("created %1\n").arg(demo));
         QVERIFY(matchesReference(runTool(QStringLiteral("design"), demo), QStringLiteral("demo-design.txt")));
+        QVERIFY(matchesReference(runTool(QStringLiteral("model"), demo), QStringLiteral("demo-model.txt")));
         m_doc.reset();
         QString out = runTool(QStringLiteral("design"), odd);
         {

@@ -207,6 +207,69 @@ private slots:
         QVERIFY2(doc.errorString().contains(file), qPrintable(doc.errorString()));
         QCOMPARE(fileHash(file), before);
     }
+
+    // A reader that walks a key pair position by position sees every change made between two of its
+    // steps, by this connection or by another one.
+    void walkSeesEveryChange_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<QByteArrayList>("expected");
+        const QByteArrayList three{record(0), record(1), record(2)};
+        QTest::newRow("none") << QString() << three;
+        QTest::newRow("append") << QStringLiteral("append") << (three + QByteArrayList{record(9)});
+        QTest::newRow("replace by one") << QStringLiteral("replace") << QByteArrayList{record(0), record(1)};
+        QTest::newRow("append by another connection")
+            << QStringLiteral("other") << (three + QByteArrayList{record(9)});
+        QTest::newRow("another key pair read") << QStringLiteral("other key") << three;
+    }
+
+    void walkSeesEveryChange()
+    {
+        QFETCH(QString, change);
+        QFETCH(QByteArrayList, expected);
+        const int index = m_doc->index();
+        put(index, record(0), 0);
+        put(index, record(1), 1);
+        put(index, record(2), 1);
+        VKD_H_ZOBDoc other(path(), VKD_H_ZOBDoc::OpenExisting);
+        QByteArrayList seen;
+        for (int pos = 0;; ++pos) {
+            char buffer[64];
+            int length = sizeof buffer;
+            if (vkd_zob_get(index, 200, 6, buffer, &length, pos) >= ZOB_END)
+                break;
+            seen << QByteArray(buffer, length);
+            if (pos != 1)
+                continue;
+            if (change == QLatin1String("append"))
+                put(index, record(9), 1);
+            else if (change == QLatin1String("replace"))
+                put(index, record(7), 0);
+            else if (change == QLatin1String("other"))
+                put(other.index(), record(9), 1);
+            else if (change == QLatin1String("other key"))
+                QCOMPARE(readAll(index, 200, 7), QByteArrayList());
+        }
+        QCOMPARE(seen, expected);
+    }
+
+    // Appends inside a lock go on behind whatever another connection appended before the lock.
+    void appendAfterAnotherWriter()
+    {
+        const int index = m_doc->index();
+        VKD_H_ZOBDoc other(path(), VKD_H_ZOBDoc::OpenExisting);
+        QCOMPARE(vkd_zob_lock_ex(index, 200, 6), ZOB_OK);
+        put(index, record(0), 0);
+        put(index, record(1), 1);
+        vkd_zob_free_ex(index, 200, 6);
+        put(other.index(), record(2), 1);
+        QCOMPARE(vkd_zob_lock_ex(index, 200, 6), ZOB_OK);
+        put(index, record(3), 1);
+        vkd_zob_free_ex(index, 200, 6);
+        put(index, record(4), 1);
+        QCOMPARE(readAll(other.index()),
+                 (QByteArrayList{record(0), record(1), record(2), record(3), record(4)}));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestZob)

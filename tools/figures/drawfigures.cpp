@@ -1,13 +1,16 @@
-// Draws the figures of the library's two resource blocks. Run it by hand after a change of a
-// figure and commit the PNGs it writes:  drawfigures <folder>
+// Draws the figures of the library's two resource blocks, and with a second folder the
+// numbered icons of the widget layer. Run it by hand after a change of a figure and commit the
+// PNGs it writes:  drawfigures <folder> [<icon folder>]
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStringList>
 #include <cmath>
 #include <cstdio>
 #include <functional>
+#include <vector>
 
 namespace {
 
@@ -38,18 +41,6 @@ void arrow(QPainter& p, QPointF from, QPointF to, double head = 6.0)
     p.restore();
 }
 
-// A vertical dimension between two heights with its text to the right.
-void dimension(QPainter& p, double x, double y1, double y2, const QString& text)
-{
-    p.save();
-    p.setPen(QPen(kDimension, 1));
-    arrow(p, QPointF(x, (y1 + y2) / 2), QPointF(x, y1), 4);
-    arrow(p, QPointF(x, (y1 + y2) / 2), QPointF(x, y2), 4);
-    if (!text.isEmpty())
-        p.drawText(QPointF(x + 4, (y1 + y2) / 2 + 4), text);
-    p.restore();
-}
-
 void bars(QPainter& p, double y, double x0, double x1, double step, double r)
 {
     p.save();
@@ -72,43 +63,137 @@ void slabSection(QPainter& p, const QRectF& slab)
     bars(p, slab.bottom() - 19, slab.left() + 12, slab.right() - 12, 16, 3);
 }
 
-// Concrete cover and layer distances of a plate section.
-void drawCover(QPainter& p, QSize size, Labels l)
+// A chain of vertical dimensions at x through the given heights, each span named at its right.
+// Crisp at the figure's pixel grid: lines lie on pixel centres.
+void dimensionChain(QPainter& p, double x, const std::vector<double>& ys, const QStringList& names)
 {
-    const QRectF slab(10, 14, size.width() - 90, size.height() - 28);
-    slabSection(p, slab);
-    const double x = slab.right() + 10;
-    dimension(p, x, slab.top(), slab.top() + 12, tr2(l, "H oben", "H upper"));
-    dimension(p, x + 30, slab.top() + 12, slab.top() + 19, tr2(l, "DH", "DH"));
-    dimension(p, x, slab.bottom() - 12, slab.bottom(), tr2(l, "H unten", "H lower"));
-    if (l != Labels::None) {
-        p.setPen(kInk);
-        p.drawText(QPointF(slab.left() + 4, 11), tr2(l, "Oberseite", "upper side"));
-        p.drawText(QPointF(slab.left() + 4, size.height() - 2), tr2(l, "Unterseite", "lower side"));
-    }
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing, false);
+    p.setPen(QPen(kDimension, 1));
+    p.drawLine(QPointF(x, ys.front()), QPointF(x, ys.back()));
+    for (double y : ys)
+        p.drawLine(QPointF(x - 3, y), QPointF(x + 3, y));
+    p.setRenderHint(QPainter::Antialiasing, true);
+    for (size_t k = 0; k + 1 < ys.size() && int(k) < names.size(); ++k)
+        p.drawText(QPointF(x + 6, (ys[k] + ys[k + 1]) / 2 + 4), names[int(k)]);
+    p.restore();
 }
 
-// Directions of the reinforcement in the plane of the element.
+// A thin dotted line from a layer to its dimension chain.
+void extension(QPainter& p, double x0, double x1, double y)
+{
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing, false);
+    p.setPen(QPen(kDimension, 1, Qt::DotLine));
+    p.drawLine(QPointF(x0, y), QPointF(x1, y));
+    p.restore();
+}
+
+// Concrete cover and layer distances of a plate section: upper side A with three layers at
+// H, DH and DDH, lower side B with two at H and DH. Letters only, so that one form serves every
+// language; the form without labels leaves them out.
+void drawCover(QPainter& p, QSize size, Labels l)
+{
+    const QColor cross(0x20, 0x70, 0x30);
+    const QColor third(0x70, 0x30, 0xa0);
+    const QRectF slab(28.5, 16.5, 122, size.height() - 29);
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing, false);
+    p.setPen(QPen(kInk, 1));
+    p.setBrush(kConcrete);
+    p.drawRect(slab);
+    p.restore();
+    const double top = slab.top(), bottom = slab.bottom();
+    const double upper[3] = {top + 14, top + 26, top + 38};
+    const double lower[2] = {bottom - 14, bottom - 26};
+    bars(p, upper[0], slab.left() + 10, slab.right() - 8, 14, 3);
+    bars(p, lower[0], slab.left() + 10, slab.right() - 8, 14, 3);
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing, false);
+    p.setPen(QPen(cross, 2));
+    p.drawLine(QPointF(slab.left() + 4, upper[1]), QPointF(slab.right() - 4, upper[1]));
+    p.drawLine(QPointF(slab.left() + 4, lower[1]), QPointF(slab.right() - 4, lower[1]));
+    p.restore();
+    p.save();
+    p.setPen(Qt::NoPen);
+    p.setBrush(third);
+    for (double x = slab.left() + 17; x <= slab.right() - 8; x += 14)
+        p.drawEllipse(QPointF(x, upper[2]), 2.5, 2.5);
+    p.restore();
+    const double chain = slab.right() + 22;
+    for (double y : upper)
+        extension(p, slab.right() + 2, chain - 3, y);
+    for (double y : lower)
+        extension(p, slab.right() + 2, chain - 3, y);
+    extension(p, slab.right() + 2, chain - 3, top);
+    extension(p, slab.right() + 2, chain - 3, bottom);
+    if (l == Labels::None) {
+        dimensionChain(p, chain, {top, upper[0], upper[1], upper[2]}, {});
+        dimensionChain(p, chain, {lower[1], lower[0], bottom}, {});
+        return;
+    }
+    dimensionChain(p, chain, {top, upper[0], upper[1], upper[2]},
+                   {QStringLiteral("H"), QStringLiteral("DH"), QStringLiteral("DDH")});
+    dimensionChain(p, chain, {lower[1], lower[0], bottom}, {QStringLiteral("DH"), QStringLiteral("H")});
+    QFont bold = p.font();
+    bold.setBold(true);
+    bold.setPixelSize(12);
+    p.save();
+    p.setFont(bold);
+    p.setPen(kInk);
+    p.drawText(QPointF(8, top + 5), QStringLiteral("A"));
+    p.drawText(QPointF(8, bottom + 5), QStringLiteral("B"));
+    p.restore();
+}
+
+// Directions of the reinforcement in the plane of the element: the angle alpha of the principal
+// reinforcement from the local x-axis, the cross reinforcement across it, and a section of the
+// element with its upper side A and lower side B, for which the angle holds alike.
 void drawDirections(QPainter& p, QSize size, Labels l)
 {
-    const QPointF o(40, size.height() - 22);
+    const QPointF o(30.5, size.height() - 20.5);
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing, false);
     p.setPen(QPen(kInk, 1));
-    arrow(p, o, o + QPointF(size.width() - 60, 0));
-    arrow(p, o, o - QPointF(0, size.height() - 34));
-    p.drawText(o + QPointF(size.width() - 56, 12), QStringLiteral("x"));
-    p.drawText(o - QPointF(12, size.height() - 40), QStringLiteral("y"));
+    p.drawLine(o, o + QPointF(88, 0));
+    p.drawLine(o, o - QPointF(0, size.height() - 34));
+    p.restore();
+    p.setPen(QPen(kInk, 1));
+    arrow(p, o + QPointF(80, 0), o + QPointF(92, 0), 5);
+    arrow(p, o - QPointF(0, size.height() - 42), o - QPointF(0, size.height() - 30), 5);
+    p.drawText(o + QPointF(90, 14), QStringLiteral("x"));
+    p.drawText(o - QPointF(-5, size.height() - 40), QStringLiteral("y"));
+    const double a = M_PI / 6;
     p.setPen(QPen(kSteel, 2));
-    const double a = 0.5;
-    arrow(p, o, o + QPointF(110 * std::cos(a), -110 * std::sin(a)));
-    arrow(p, o, o + QPointF(-60 * std::sin(a), -60 * std::cos(a)));
+    arrow(p, o, o + QPointF(84 * std::cos(a), -84 * std::sin(a)));
+    p.setPen(QPen(QColor(0x20, 0x70, 0x30), 2));
+    arrow(p, o, o + QPointF(-48 * std::sin(a), -48 * std::cos(a)));
     p.setPen(QPen(kDimension, 1));
-    p.drawArc(QRectF(o.x() - 45, o.y() - 45, 90, 90), 0, int(a * 180 / M_PI * 16));
-    p.drawText(o + QPointF(50, -8), QStringLiteral("\u03b1"));
-    if (l != Labels::None) {
-        p.setPen(kInk);
-        p.drawText(QPointF(o.x() + 70, o.y() - 64), tr2(l, "Hauptbewehrung", "principal"));
-        p.drawText(QPointF(4, 12), tr2(l, "Querbewehrung", "cross reinforcement"));
-    }
+    p.drawArc(QRectF(o.x() - 34, o.y() - 34, 68, 68), 0, int(a * 180 / M_PI * 16));
+    p.drawText(o + QPointF(38, -6), QStringLiteral("\u03b1"));
+
+    const QRectF section(138.5, size.height() - 46.5, 48, 12);
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing, false);
+    p.setPen(QPen(kInk, 1));
+    p.setBrush(kConcrete);
+    p.drawRect(section);
+    p.restore();
+    if (l == Labels::None)
+        return;
+    QFont bold = p.font();
+    bold.setBold(true);
+    bold.setPixelSize(12);
+    p.save();
+    p.setFont(bold);
+    p.setPen(kInk);
+    p.drawText(QPointF(section.center().x() - 4, section.top() - 4), QStringLiteral("A"));
+    p.drawText(QPointF(section.center().x() - 4, section.bottom() + 14), QStringLiteral("B"));
+    p.restore();
+    p.setPen(kSteel);
+    p.drawText(QPointF(o.x() + 44, o.y() - 54), tr2(l, "Hauptbewehrung", "principal"));
+    p.setPen(QColor(0x20, 0x70, 0x30));
+    p.drawText(QPointF(2, 11), tr2(l, "Querbewehrung", "cross"));
 }
 
 void drawDesignLine(QPainter& p, QSize size)
@@ -280,6 +365,24 @@ void drawBearing(QPainter& p, QSize size, int kind)
         p.drawEllipse(QPointF(w / 2, h / 2), 12, 6);
 }
 
+// A pocket calculator: display and keys, readable at 16 pixels.
+void drawCalculator(QPainter& p, QSize size)
+{
+    const double w = size.width(), h = size.height();
+    p.setPen(QPen(kInk, 1.5));
+    p.setBrush(QColor(0x50, 0x58, 0x68));
+    p.drawRoundedRect(QRectF(w * 0.16, 1, w * 0.68, h - 2), 3, 3);
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(0xc8, 0xe6, 0xc0));
+    p.drawRect(QRectF(w * 0.25, h * 0.1, w * 0.5, h * 0.2));
+    const double key = w * 0.14, gap = w * 0.04;
+    for (int r = 0; r < 3; ++r)
+        for (int c = 0; c < 3; ++c) {
+            p.setBrush(r == 2 && c == 2 ? QColor(0xe0, 0x80, 0x30) : QColor(0xf0, 0xf0, 0xf0));
+            p.drawRect(QRectF(w * 0.25 + c * (key + gap), h * 0.4 + r * (key + gap), key, key));
+        }
+}
+
 struct Figure
 {
     const char* name;
@@ -287,14 +390,96 @@ struct Figure
     std::function<void(QPainter&, QSize)> draw;
 };
 
+// Icons of the widget layer: <number>.png at 32 pixels and <number>@2x.png at 64, each drawn
+// at its own size so that both are sharp.
+const QColor kGroupFill(0x3a, 0x7b, 0xc8);
+const QColor kSecondaryFill(0xe0, 0x8a, 0x1e);
+
+// A mesh of 3 x 3 quads on a 32-unit square with the L of five picked ones filled: a group.
+void drawGroupIcon(QPainter& p)
+{
+    const double x0 = 3, y0 = 3, step = 26.0 / 3;
+    p.setPen(Qt::NoPen);
+    p.setBrush(kGroupFill);
+    const int picked[][2] = {{0, 0}, {0, 1}, {0, 2}, {1, 2}, {2, 2}};
+    for (const auto& q : picked)
+        p.drawRect(QRectF(x0 + q[0] * step, y0 + q[1] * step, step, step));
+    p.setPen(QPen(kInk, 1.6));
+    p.setBrush(Qt::NoBrush);
+    for (int i = 0; i <= 3; ++i) {
+        p.drawLine(QPointF(x0 + i * step, y0), QPointF(x0 + i * step, y0 + 26));
+        p.drawLine(QPointF(x0, y0 + i * step), QPointF(x0 + 26, y0 + i * step));
+    }
+}
+
+// A label tag with a hole and two lines of writing: a group known by its name.
+void drawSecondaryGroupIcon(QPainter& p)
+{
+    QPainterPath tag;
+    tag.moveTo(3, 16);
+    tag.lineTo(11, 6);
+    tag.lineTo(29, 6);
+    tag.lineTo(29, 26);
+    tag.lineTo(11, 26);
+    tag.closeSubpath();
+    p.setPen(QPen(kInk, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setBrush(kSecondaryFill);
+    p.drawPath(tag);
+    p.setBrush(Qt::white);
+    p.drawEllipse(QPointF(10, 16), 2.2, 2.2);
+    p.setPen(QPen(Qt::white, 2.4, Qt::SolidLine, Qt::RoundCap));
+    p.drawLine(QPointF(16, 13), QPointF(26, 13));
+    p.drawLine(QPointF(16, 19), QPointF(23, 19));
+}
+
+bool saveIcon(const QImage& image, const QDir& out, const QString& name)
+{
+    if (image.save(out.filePath(name)))
+        return true;
+    std::fprintf(stderr, "cannot write %s\n", qPrintable(name));
+    return false;
+}
+
+// Icons have no background, so that they sit on any button.
+bool drawIcons(const QDir& out)
+{
+    const struct
+    {
+        int number;
+        void (*draw)(QPainter&);
+    } icons[] = {{2125, drawGroupIcon}, {2126, drawSecondaryGroupIcon}};
+    for (const auto& icon : icons) {
+        for (int scale = 1; scale <= 2; ++scale) {
+            QImage image(32 * scale, 32 * scale, QImage::Format_ARGB32);
+            image.fill(Qt::transparent);
+            QPainter p(&image);
+            p.setRenderHint(QPainter::Antialiasing);
+            p.scale(scale, scale);
+            icon.draw(p);
+            p.end();
+            const QString name = QString::number(icon.number) +
+                                 (scale == 2 ? QStringLiteral("@2x.png") : QStringLiteral(".png"));
+            if (!saveIcon(image, out, name))
+                return false;
+        }
+    }
+    QImage calculator(32, 32, QImage::Format_ARGB32);
+    calculator.fill(Qt::transparent);
+    QPainter p(&calculator);
+    p.setRenderHint(QPainter::Antialiasing);
+    drawCalculator(p, calculator.size());
+    p.end();
+    return saveIcon(calculator, out, QStringLiteral("calculator.png"));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: drawfigures <folder>\n");
+    if (argc != 2 && argc != 3) {
+        std::fprintf(stderr, "usage: drawfigures <folder> [<icon folder>]\n");
         return 2;
     }
     const QDir out(QString::fromLocal8Bit(argv[1]));
@@ -345,5 +530,5 @@ int main(int argc, char** argv)
             return 1;
         }
     }
-    return 0;
+    return argc == 3 && !drawIcons(QDir(QString::fromLocal8Bit(argv[2]))) ? 1 : 0;
 }

@@ -32,8 +32,8 @@ QString groupText(int32_t group)
 {
     if (group == -1)
         return QStringLiteral("-1 (remaining groups)");
-    if (group >= kFirstSecondaryGroup)
-        return QStringLiteral("%1 (secondary group %2)").arg(group).arg(secondaryGroupName(group));
+    if (group >= vkd::dbo::kFirstSecondaryGroup)
+        return QStringLiteral("%1 (secondary group %2)").arg(group).arg(vkd::dbo::secondaryGroupName(group));
     return QString::number(group);
 }
 

@@ -67,11 +67,17 @@ QString describeModel(int index)
     for (const GroupRecord& g : readAll<GroupRecord>(index, KeyGroups))
         text += QStringLiteral("group %1 %2\n").arg(g.number).arg(groupTitle(g));
     for (const GroupRecord& g : readAll<GroupRecord>(index, KeySecondaryGroups))
-        text += QStringLiteral("secondary group %1 %2\n").arg(g.number).arg(groupTitle(g));
+        text += QStringLiteral("secondary group %1 (%2) %3\n")
+                    .arg(secondaryGroupName(g.number))
+                    .arg(g.number)
+                    .arg(groupTitle(g));
     for (const LoadCaseRecord& l : readAll<LoadCaseRecord>(index, KeyLoadCases))
         text += QStringLiteral("load case %1 (kind %2) %3\n")
                     .arg(l.number)
                     .arg(l.kind)
                     .arg(QString::fromUtf8(l.title, int(strnlen(l.title, sizeof l.title))));
+    // The camera store speaks of the current project: the one this tool opened last.
+    const QString camera = getAnimatorPerspektive(0, CameraPersistentForm);
+    text += QStringLiteral("camera: %1\n").arg(camera.isEmpty() ? QStringLiteral("none") : camera);
     return text;
 }

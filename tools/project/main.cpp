@@ -3,14 +3,13 @@
 //   plib-project dump <file> <key1> <key2>   the records of a key pair, word by word
 //   plib-project model <file>                what the model holds
 //   plib-project design <file>               the design parameter records, field by field
-#include "demomodel.h"
 #include "design.h"
 #include "dump.h"
+#include "newproject.h"
 
 #include <VKD_H_ZOBDoc.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QTextStream>
 
 namespace {
@@ -38,22 +37,21 @@ int main(int argc, char** argv)
     const QString path = args.at(1);
 
     if (command == QLatin1String("create")) {
-        if (QFile::exists(path)) {
-            err << "plib-project: " << path << " exists already; it is not overwritten.\n";
+        QString error;
+        if (!createDemoProject(path, &error)) {
+            err << "plib-project: " << error << '\n';
             return 1;
         }
-        VKD_H_ZOBDoc doc(path, VKD_H_ZOBDoc::OpenOrCreate);
-        if (!doc.isValid()) {
-            err << "plib-project: " << doc.errorString() << '\n';
-            return 1;
-        }
-        writeDemoModel(doc.index());
-        writeDemoDesign(doc);
         out << "created " << path << '\n';
         return 0;
     }
 
-    VKD_H_ZOBDoc doc(path, VKD_H_ZOBDoc::OpenExisting);
+    const bool known = (command == QLatin1String("dump") && args.size() == 4) ||
+                       command == QLatin1String("design") || command == QLatin1String("model");
+    if (!known)
+        return usage(err);
+    // The other commands only read: the project and its folder stay exactly as they are.
+    VKD_H_ZOBDoc doc(path, VKD_H_ZOBDoc::ReadOnly);
     if (!doc.isValid()) {
         err << "plib-project: " << doc.errorString() << '\n';
         return 1;
@@ -71,9 +69,6 @@ int main(int argc, char** argv)
         out << dumpDesignRecords(doc.index());
         return 0;
     }
-    if (command == QLatin1String("model")) {
-        out << describeModel(doc.index());
-        return 0;
-    }
-    return usage(err);
+    out << describeModel(doc.index());
+    return 0;
 }

@@ -12,8 +12,6 @@
 #include <cstdint>
 #include <type_traits>
 
-// Group numbers from here up are secondary groups, whose names are packed into the number.
-constexpr int32_t kFirstSecondaryGroup = 1000000;
 // The mark of the records of this family; old ones carry 0. Records with another mark belong to
 // someone else.
 constexpr int32_t kDesignRecordMark = 11;

@@ -2,6 +2,9 @@
 
 #include <vkd_q.h>
 
+#include <QStringList>
+
+#include <cmath>
 #include <cstring>
 
 namespace vkd::dbo {
@@ -98,6 +101,132 @@ bool hasBrics(int index, int* count) { return countRecords(index, KeyBricks, cou
 bool hasQuadTendons(int index, int* count) { return countRecords(index, KeyQuadTendons, count); }
 bool hasBeamTendons(int index, int* count) { return countRecords(index, KeyBeamTendons, count); }
 bool hasCrossSections(int index, int* count) { return countRecords(index, KeyCrossSections, count); }
+bool hasGroups(int index, int* count)
+{
+    return countRecords(index, KeyGroups, count);
+}
+bool hasSgrp(int index, int* count)
+{
+    return countRecords(index, KeySecondaryGroups, count);
+}
+
+bool packSecondaryGroupName(const QString& name, int32_t* number)
+{
+    if (name.isEmpty() || name.size() > 4 || name != name.trimmed())
+        return false;
+    quint32 bits = 0;
+    for (int i = 0; i < 4; ++i) {
+        const ushort c = i < name.size() ? name.at(i).unicode() : ushort(' ');
+        if (c < 0x20 || c > 0x7E)
+            return false;
+        bits |= quint32(c) << (8 * i);
+    }
+    if (number)
+        *number = int32_t(bits);
+    return true;
+}
+
+QString secondaryGroupName(int32_t number)
+{
+    const quint32 bits = quint32(number);
+    QByteArray raw;
+    for (int i = 0; i < 4; ++i) {
+        const char c = char((bits >> (8 * i)) & 0xFF);
+        if (c == 0)
+            break;
+        raw += c;
+    }
+    const QString trimmed = QString::fromLatin1(raw).trimmed();
+    QString name;
+    for (const QChar c : trimmed) {
+        if (c.unicode() >= 0x20 && c.unicode() <= 0x7E)
+            name += c;
+        else
+            name += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+    }
+    return name;
+}
+
+QString cameraText(const Camera& camera, int form)
+{
+    if (form == CameraPersistentForm)
+        return QStringList{QString::number(camera.azimuth, 'g', 10), QString::number(camera.elevation, 'g', 10),
+                           QString::number(camera.zoom, 'g', 10), QString::number(camera.panX, 'g', 10),
+                           QString::number(camera.panY, 'g', 10)}
+            .join(QLatin1Char(' '));
+    constexpr double degree = M_PI / 180.0;
+    const double x = std::cos(camera.elevation * degree) * std::sin(camera.azimuth * degree);
+    const double y = -std::cos(camera.elevation * degree) * std::cos(camera.azimuth * degree);
+    const double z = std::sin(camera.elevation * degree);
+    // Rounded, so that a camera turned by hand gives a short line; -0 would read oddly.
+    auto number = [](double v) { return QString::number(std::abs(v) < 5e-5 ? 0.0 : v, 'g', 4); };
+    return QStringLiteral("X %1 Y %2 Z %3").arg(number(x), number(y), number(z));
+}
+
+bool cameraFromText(const QString& text, Camera* camera)
+{
+    const QStringList parts = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (parts.size() != 5)
+        return false;
+    double values[5];
+    for (int i = 0; i < 5; ++i) {
+        bool ok = false;
+        values[i] = parts[i].toDouble(&ok);
+        if (!ok || !std::isfinite(values[i]))
+            return false;
+    }
+    if (values[2] <= 0.0)
+        return false;
+    *camera = Camera{values[0], values[1], values[2], values[3], values[4]};
+    return true;
+}
+
+namespace {
+int& currentProjectIndex()
+{
+    static int index = 0;
+    return index;
+}
+} // namespace
+
+void setCurrentProject(int index)
+{
+    currentProjectIndex() = index;
+}
+
+int currentProject()
+{
+    return currentProjectIndex();
+}
+
+QString getAnimatorPerspektive(int /*view*/, int form)
+{
+    char text[256];
+    int length = int(sizeof text);
+    if (vkd_zob_get(currentProject(), KeyCamera, 1, text, &length, 0) >= ZOB_END)
+        return QString();
+    Camera camera;
+    if (!cameraFromText(QString::fromUtf8(text, std::min(length, int(sizeof text))), &camera))
+        return QString();
+    return cameraText(camera, form);
+}
+
+void setAnimatorPerspektive(int /*view*/, const QString& persistent)
+{
+    Camera camera;
+    if (!cameraFromText(persistent, &camera))
+        return;
+    const QString persistentText = cameraText(camera, CameraPersistentForm);
+    // Reading a page hands its camera back; the same camera leaves the project file untouched.
+    if (getAnimatorPerspektive(0, CameraPersistentForm) == persistentText)
+        return;
+    const QByteArray text = persistentText.toUtf8();
+    const int index = currentProject();
+    const int length = text.size();
+    vkd_zob_lock_ex(index, KeyCamera, 1);
+    vkd_zob_put(index, KeyCamera, 1, text.constData(), &length, 0);
+    vkd_zob_free_ex(index, KeyCamera, 1);
+}
 
 QString groupTitle(const GroupRecord& g)
 {

@@ -55,21 +55,35 @@ void load(Catalogue& c)
     if (path.empty())
         return;
     QFile file(QFile::decodeName(path.c_str()));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        qWarning("%s: cannot be read (%s); its texts are missing", path.c_str(),
+                 qPrintable(file.errorString()));
         return;
+    }
     QTextStream in(&file);
     in.setCodec("UTF-8");
+    // One warning per file, at the first line that is no text; the good lines still count.
+    int lineNumber = 0;
+    int firstBad = 0;
+    int bad = 0;
     while (!in.atEnd()) {
         const QString line = in.readLine();
+        ++lineNumber;
         if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
             continue;
         const QStringList f = splitFields(line);
         bool ok = false;
         const int textClass = f.value(0).trimmed().toInt(&ok);
-        if (f.size() != 4 || !ok)
+        if (f.size() != 4 || !ok || line.contains(QChar::ReplacementCharacter)) {
+            if (bad++ == 0)
+                firstBad = lineNumber;
             continue;
+        }
         c.texts.insert(textKey(textClass, f.at(1).trimmed()), qMakePair(f.at(2), f.at(3)));
     }
+    if (bad > 0)
+        qWarning("%s:%d: not a text line \"class|key|German|English\" in UTF-8; %d such line(s) skipped",
+                 path.c_str(), firstBad, bad);
 }
 
 } // namespace

@@ -20,4 +20,14 @@ public:
     int idAt(int index) const;
     // Makes the entry with this id current; false if there is none.
     bool setCurrentId(int id);
+
+    // The current entry as a part of a persistent string, tagged with the object name: its id, or
+    // "#" and its row where it has none.
+    virtual QString writeXMLstring();
+    // Finds this combo's part in a whole persistent string and makes that entry current; a
+    // missing part or an entry that no longer exists leaves the combo as it is.
+    virtual void readXMLstring(const QString& xml);
+
+private:
+    QString xmlTag() const;
 };

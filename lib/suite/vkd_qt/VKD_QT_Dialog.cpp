@@ -1,7 +1,9 @@
 #include "VKD_QT_Dialog.h"
 
-VKD_QT_Dialog::VKD_QT_Dialog(QWidget* parent, const char* name)
-    : QDialog(parent)
+#include <QLineEdit>
+#include <QToolTip>
+
+VKD_QT_Dialog::VKD_QT_Dialog(QWidget* parent, const char* name) : QDialog(parent)
 {
     if (name)
         setObjectName(QString::fromLatin1(name));
@@ -21,4 +23,17 @@ void VKD_QT_Dialog::showEvent(QShowEvent* event)
         m_detour = false;
         emit isReOpen(m_lastDone);
     }
+}
+
+void VKD_QT_Dialog::accept()
+{
+    for (QLineEdit* field : findChildren<QLineEdit*>()) {
+        if (field->isEnabled() && field->validator() && !field->hasAcceptableInput()) {
+            field->setFocus(Qt::OtherFocusReason);
+            field->selectAll();
+            QToolTip::showText(field->mapToGlobal(QPoint(0, field->height())), field->toolTip(), field);
+            return;
+        }
+    }
+    QDialog::accept();
 }

@@ -57,6 +57,7 @@ void VKD_QT_InitTranslator::install()
         return;
     auto* translator = new QTranslator;
     if (!translator->load(QFile::decodeName(path.c_str()))) {
+        qWarning("%s: not a translation that can be loaded; the texts stay English", path.c_str());
         delete translator;
         return;
     }

@@ -2,7 +2,9 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPersistentModelIndex>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTableWidgetItem>
 
 VKD_QT_TableWidgetButton::VKD_QT_TableWidgetButton(QWidget* table, QTableWidgetItem* item, ButtonModus mode)
@@ -35,4 +37,26 @@ VKD_QT_TableWidgetButton::VKD_QT_TableWidgetButton(QWidget* table, QTableWidgetI
     }
     m_button->setObjectName(QStringLiteral("cellButton"));
     connect(m_button, &QPushButton::clicked, this, &VKD_QT_TableWidgetButton::clicked);
+    // The model reports a redraw of the cell even while the table's own signals are blocked.
+    auto* tableWidget = qobject_cast<QTableWidget*>(table);
+    if (!tableWidget || !item || item->tableWidget() != tableWidget)
+        return;
+    const QPersistentModelIndex cell = tableWidget->model()->index(item->row(), item->column());
+    connect(tableWidget->model(), &QAbstractItemModel::dataChanged, this,
+            [this, cell](const QModelIndex& topLeft, const QModelIndex& bottomRight) {
+                if (cell.isValid() && cell.row() >= topLeft.row() && cell.row() <= bottomRight.row() &&
+                    cell.column() >= topLeft.column() && cell.column() <= bottomRight.column())
+                    showText(cell.data().toString());
+            });
+}
+
+void VKD_QT_TableWidgetButton::showText(const QString& text)
+{
+    if (m_mode == TextButton) {
+        m_button->setText(text);
+        m_button->setToolTip(text);
+    } else if (m_label) {
+        m_label->setText(text);
+        m_label->setToolTip(text);
+    }
 }

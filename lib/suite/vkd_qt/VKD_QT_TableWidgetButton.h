@@ -6,7 +6,8 @@ class QLabel;
 class QPushButton;
 class QTableWidgetItem;
 
-// A button laid over a table cell. It shows the text of the cell's item:
+// A button laid over a table cell. It shows the text of the cell's item, also after the item
+// was redrawn under it:
 //   mode 0 (EditText): the text, and a small "..." button at its right that opens an editor;
 //   mode 1 (ButtonOnly): only the "..." button;
 //   mode 2 (TextButton): one flat button carrying the text.
@@ -24,6 +25,8 @@ signals:
     void clicked();
 
 private:
+    void showText(const QString& text);
+
     ButtonModus m_mode;
     QPushButton* m_button = nullptr;
     QLabel* m_label = nullptr;

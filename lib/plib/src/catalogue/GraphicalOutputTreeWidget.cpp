@@ -74,13 +74,6 @@ bool pruneHollow(Item* item)
     return true;
 }
 
-void setStatesUnchecked(QTreeWidgetItem* item)
-{
-    item->setCheckState(0, Qt::Unchecked);
-    for (int i = 0; i < item->childCount(); ++i)
-        setStatesUnchecked(item->child(i));
-}
-
 void appendSelection(QString& out, QTreeWidgetItem* treeWidgetItem)
 {
     const Item* item = treeItem(treeWidgetItem);
@@ -382,8 +375,10 @@ void GraphicalOutputTreeWidget::applySelection(QString text)
     if (lines.isEmpty())
         return;
     rebuilding = true;
+    // The automatic update carries the state of a top level item down its subtree; an item that
+    // is unchecked already has no checked descendant.
     for (int i = 0; i < topLevelItemCount(); ++i)
-        setStatesUnchecked(topLevelItem(i));
+        topLevelItem(i)->setCheckState(0, Qt::Unchecked);
     const QHash<QString, Item*> byId = itemsById(*this);
     for (const QString& line : lines) {
         const QStringList parts = line.split(QLatin1Char(':'), Qt::SkipEmptyParts);

@@ -83,6 +83,15 @@ void bindToCases(GraphicalOutputRecord& r)
                     : RowMarkCase;
 }
 
+// Gives target the text of field unless it holds it already; true if it changed.
+bool assignChanged(QString& target, const QStringRef& field)
+{
+    if (field == target && !target.isNull())
+        return false;
+    target = field.toString();
+    return true;
+}
+
 } // namespace
 
 void parseCatalogue(QIODevice& device)
@@ -96,6 +105,10 @@ void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& recor
     // Not reset between lines: a line of exactly 14 parts keeps the English script of the line
     // before it.
     GraphicalOutputRecord work;
+    // Neighbouring lines mostly share their captions and words: a field equal to the one of the
+    // line before keeps what was made of it, which spares the allocations and the text lookups
+    // that dominate parsing.
+    QString captionFields[3];
     char buffer[lineBufferSize];
     qint64 length;
     while ((length = device.readLine(buffer, lineBufferSize)) > 0) {
@@ -111,22 +124,28 @@ void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& recor
         work.prog1 = parts.at(0).trimmed().toInt();
         work.prog2 = parts.at(1).trimmed().toInt();
         work.prog3 = parts.at(2).trimmed().toInt();
-        storeCaption(parts.at(3).trimmed(), 0, work.title1, work.id1);
-        storeCaption(parts.at(4).trimmed(), 1, work.title2, work.id2);
-        storeCaption(parts.at(5).trimmed(), 2, work.title3, work.id3);
-        work.contentTag = parts.at(6).trimmed().toString();
+        QString* titles[3] = {&work.title1, &work.title2, &work.title3};
+        QString* ids[3] = {&work.id1, &work.id2, &work.id3};
+        for (int column = 0; column < 3; ++column) {
+            const QStringRef field = parts.at(3 + column).trimmed();
+            if (captionFields[column].isNull() || field != captionFields[column]) {
+                captionFields[column] = field.toString();
+                storeCaption(field, column, *titles[column], *ids[column]);
+            }
+        }
+        assignChanged(work.contentTag, parts.at(6).trimmed());
         work.number7 = parts.at(7).trimmed().toInt();
-        work.caseWord = parts.at(8).trimmed().toString();
+        if (assignChanged(work.caseWord, parts.at(8).trimmed()))
+            bindToCases(work);
         work.preselect = parts.at(9).trimmed().toInt();
         work.viewKind = parts.at(10).trimmed().toInt();
-        work.text11 = parts.at(11).trimmed().toString();
+        assignChanged(work.text11, parts.at(11).trimmed());
         work.systemMask = parts.at(12).trimmed().toInt();
         work.scriptGerman = parts.at(13).trimmed().toString();
         if (parts.size() > lastColumn)
             work.scriptEnglish = parts.at(lastColumn).trimmed().toString();
         if (work.scriptGerman.isEmpty() || work.scriptEnglish.isEmpty())
             continue;
-        bindToCases(work);
         records.push_back(work);
     }
 }

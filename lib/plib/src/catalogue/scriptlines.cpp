@@ -25,6 +25,16 @@ int ScriptContext::kindOfSystem()
     return m_kindOfSystem;
 }
 
+const QString& ScriptContext::caseLine(int number)
+{
+    auto it = m_caseLines.find(number);
+    if (it == m_caseLines.end()) {
+        const QString n = QString::number(number);
+        it = m_caseLines.insert(number, lcWord + n + designWord + n);
+    }
+    return *it;
+}
+
 namespace {
 
 constexpr int splitPage = 122;
@@ -43,12 +53,6 @@ QString viewOf(ScriptContext& context, int viewKind)
     default:
         return QString();
     }
-}
-
-QString caseLine(const ScriptContext& context, int number)
-{
-    const QString n = QString::number(number);
-    return context.lcWord + n + context.designWord + n;
 }
 
 } // namespace
@@ -77,7 +81,7 @@ void appendScriptLines(ScriptContext& context, const ScriptEntry& entry, std::ve
     }
     if (number != context.lastCase) {
         context.lastCase = number;
-        lines.push_back(caseLine(context, number));
+        lines.push_back(context.caseLine(number));
     }
     int second = 0;
     if (!secondCase(entry.label, &second)) {
@@ -93,7 +97,7 @@ void appendScriptLines(ScriptContext& context, const ScriptEntry& entry, std::ve
             unit.clear();
     }
     lines.push_back(context.firstColour + script + context.andWord);
-    lines.push_back(caseLine(context, second));
+    lines.push_back(context.caseLine(second));
     lines.push_back(context.secondColour + script + unit + context.colourEnd);
     context.lastCase = second;
 }

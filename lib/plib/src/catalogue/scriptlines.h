@@ -2,6 +2,7 @@
 
 #include "GraphicalOutputRecord.h"
 
+#include <QHash>
 #include <QString>
 
 #include <functional>
@@ -30,9 +31,12 @@ struct ScriptContext
     bool english;
     int progname;
     int kindOfSystem();
+    // "LC 12 DESI 12": every plot repeats the lines of the same load cases, so each is made once.
+    const QString& caseLine(int number);
 
 private:
     std::function<int()> m_askKindOfSystem;
+    QHash<int, QString> m_caseLines;
     int m_kindOfSystem = 0;
     bool m_kindKnown = false;
 };

@@ -3,12 +3,19 @@
 #include "DesignParameterTable.h"
 #include "designrecord.h"
 #include "designstore.h"
+#include "dlgCrackControl.h"
+#include "dlgDistanceDirection.h"
+#include "dlgReinforcement.h"
+#include "dlgSelection.h"
 #include "projectentries.h"
 #include "rowtext.h"
 
+#include <VKD_H_SecondaryGroupDialog.h>
+#include <VKD_H_SelGRP_Dialog.h>
 #include <VKD_H_TableWidgetBox.h>
 #include <VKD_H_TwHeaderItem.h>
 #include <VKD_H_ZOBDoc.h>
+#include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_Dialog.h>
 #include <VKD_QT_Layouts.h>
 #include <VKD_QT_MessageBox.h>
@@ -338,6 +345,18 @@ void DesignParameter::slot_editCellWidget()
     if (row == 0 && col == 0)
         return;
 
+    if (editColumn >= 0 && table->getColumnId(editColumn) == ColumnSelection) {
+        if (auto* editor = qobject_cast<dlgSelection*>(table->cellWidget(editRow, editColumn))) {
+            // The choice is in the row already; entries without an id (-1) change nothing here.
+            const int id = editor->comboGroups->getCurrentId();
+            if (isRowNumber(editRow) && id == 0)
+                data->rows[size_t(editRow)].groups.clear();
+            else if (isRowNumber(editRow) && id == 1)
+                data->rows[size_t(editRow)].groups = {-1};
+            refreshRows(editRow);
+            table->setCellWidget(editRow, editColumn, nullptr);
+        }
+    }
     if (editColumn >= 0 && isSummaryColumn(table->getColumnId(editColumn)))
         table->setCellWidget(editRow, editColumn, nullptr);
 
@@ -346,6 +365,21 @@ void DesignParameter::slot_editCellWidget()
         editRow = -1;
         editColumn = -1;
         return;
+    }
+
+    if (id == ColumnSelection && isRowNumber(row)) {
+        auto* editor = new dlgSelection(indexOf(data->doc), table);
+        editor->fillCombo(rowAt(row), hasRemainingRow());
+        table->setCellWidget(row, col, editor);
+        connect(editor, &dlgSelection::signal_groupButtonClicked, this, &DesignParameter::slot_openGroups);
+        connect(editor, &dlgSelection::signal_selectionComboChanged, this,
+                &DesignParameter::slot_selectionComboChanged);
+        connect(editor, &dlgSelection::signal_sekGroupButtonClicked, this,
+                &DesignParameter::slot_openSekGroups);
+        if (QTableWidgetItem* item = table->item(row, col)) {
+            VKD_QT_SignalBlocker blocker(table);
+            item->setText(QString());
+        }
     }
 
     if (QTableWidgetItem* item = table->item(row, col)) {
@@ -373,22 +407,158 @@ void DesignParameter::slot_editCellWidget()
     editColumn = col;
 }
 
-// The editors behind the three summary buttons and the group editor of the first column are
-// dialogs of their own that this page does not have yet: until then these slots leave the row
-// as it is.
-void DesignParameter::slot_editButtonClicked() {}
+namespace {
 
-void DesignParameter::slot_calcReinforcementButtonClicked() {}
+// Shows a design dialog on a row's record and writes it back only on OK.
+template <typename Dialog> bool confirmed(Dialog& dialog, tagZOB_QUAD_RIM* record)
+{
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    dialog.writeToRecord(record);
+    return true;
+}
 
-void DesignParameter::slot_calcCrackButtonClicked() {}
+} // namespace
 
-void DesignParameter::slot_openGroups() {}
+int DesignParameter::currentDesignRow() const
+{
+    const int r = data->table ? data->table->currentRow() : -1;
+    return isRowNumber(r) ? r : -1;
+}
 
-void DesignParameter::slot_openSekGroups() {}
+void DesignParameter::slot_editButtonClicked()
+{
+    const int r = currentDesignRow();
+    if (r < 0)
+        return;
+    tagZOB_QUAD_RIM* record = &rowAt(r).record;
+    dlgDistanceDirection dialog(record, this);
+    if (confirmed(dialog, record))
+        refreshRows(r);
+}
 
-void DesignParameter::slot_selectionComboChanged(QString) {}
+void DesignParameter::slot_calcReinforcementButtonClicked()
+{
+    const int r = currentDesignRow();
+    if (r < 0)
+        return;
+    tagZOB_QUAD_RIM* record = &rowAt(r).record;
+    dlgReinforcement dialog(indexOf(data->doc), record, this);
+    if (confirmed(dialog, record))
+        refreshRows(r);
+}
 
-void DesignParameter::slot_onReopenGroups() {}
+void DesignParameter::slot_calcCrackButtonClicked()
+{
+    const int r = currentDesignRow();
+    if (r < 0)
+        return;
+    tagZOB_QUAD_RIM* record = &rowAt(r).record;
+    dlgCrackControl dialog(record, this);
+    if (confirmed(dialog, record))
+        refreshRows(r);
+}
+
+bool DesignParameter::hasRemainingRow() const
+{
+    return std::any_of(data->rows.begin(), data->rows.end(), [](const DesignParameterRow& row) {
+        return row.groups.size() == 1 && row.groups.front() == -1;
+    });
+}
+
+void DesignParameter::collectUsedGroups(int row, std::vector<int>& list) const
+{
+    for (size_t i = 0; i < data->rows.size(); ++i) {
+        const std::vector<int32_t>& groups = data->rows[i].groups;
+        if (int(i) == row || groups.empty() || (groups.size() == 1 && groups.front() == -1))
+            continue;
+        list.insert(list.end(), groups.begin(), groups.end());
+    }
+    std::sort(list.begin(), list.end());
+}
+
+void DesignParameter::takeGroups(int row, const std::vector<int>& groups, int editorRow)
+{
+    DesignParameterTable* table = data->table;
+    data->rows[size_t(row)].groups = groups;
+    auto* editor =
+        qobject_cast<dlgSelection*>(table->cellWidget(editorRow, table->getColumnNumber(ColumnSelection)));
+    if (editor && isRowNumber(editorRow)) {
+        const bool remainingInUse = hasRemainingRow();
+        editor->fillCombo(rowAt(editorRow), remainingInUse);
+    }
+}
+
+void DesignParameter::slot_openGroups()
+{
+    DesignParameterTable* table = data->table;
+    const int row = table->currentRow();
+    if (!isRowNumber(row))
+        return;
+    std::vector<int> checked = rowAt(row).groups;
+    std::vector<int> used;
+    collectUsedGroups(row, used);
+    VKD_H_SelGRP_Dialog dialog(data->entriesLoaded, 200, data->doc, checked, used, nullptr, this,
+                               "Group Selection");
+    const int result = dialog.exec();
+    if (result == 1) {
+        std::vector<int> chosen;
+        dialog.getChecked(chosen);
+        takeGroups(row, chosen, row);
+    } else if (result == VKD_H_SelGRP_Dialog::PickInModel && data->dialog) {
+        // Without a host dialog there is nothing to leave for the pick. The connection is made
+        // once however often the user leaves.
+        disconnect(data->dialog, &VKD_QT_Dialog::isReOpen, this, &DesignParameter::slot_onReopenGroups);
+        connect(data->dialog, &VKD_QT_Dialog::isReOpen, this, &DesignParameter::slot_onReopenGroups);
+        data->dialog->callDone(VKD_H_SelGRP_Dialog::PickInModel);
+    }
+}
+
+void DesignParameter::slot_onReopenGroups()
+{
+    std::vector<int> picked;
+    if (VKD_H_SelGRP_Dialog::getAniSelectionFromZob(indexOf(data->doc), picked) == -1)
+        return;
+    DesignParameterTable* table = data->table;
+    const int column = table->getColumnNumber(ColumnSelection);
+    const int row = table->currentRow();
+    if (column < 0 || !isRowNumber(row))
+        return;
+    takeGroups(row, picked, row);
+}
 
 // The secondary group dialog has no detour out of the host dialog, so nothing comes back here.
 void DesignParameter::slot_onReopenGroupsSecondary() {}
+
+void DesignParameter::slot_openSekGroups()
+{
+    DesignParameterTable* table = data->table;
+    const int row = table->currentRow();
+    if (!isRowNumber(row) || !table->item(row, table->getColumnNumber(ColumnSelection)))
+        return;
+    const std::vector<int> checked = rowAt(row).groups;
+    std::vector<int> used;
+    collectUsedGroups(row, used);
+    VKD_H_SecondaryGroupDialog dialog(data->doc, checked, used, this);
+    if (dialog.exec() != 1)
+        return;
+    std::vector<int> chosen;
+    dialog.getChecked(chosen);
+    takeGroups(row, chosen, table->currentRow());
+}
+
+void DesignParameter::slot_selectionComboChanged(QString text)
+{
+    DesignParameterTable* table = data->table;
+    const int row = table->currentRow();
+    if (!qobject_cast<dlgSelection*>(table->cellWidget(row, table->currentColumn())) || !isRowNumber(row))
+        return;
+    // The entries are made in the editor's context; the same words here, or no match.
+    std::vector<int32_t>& groups = data->rows[size_t(row)].groups;
+    if (text == tr("Remaining Groups"))
+        groups = {-1};
+    else if (text == tr("None"))
+        groups.clear();
+    else if (!text.isEmpty())
+        std::sort(groups.begin(), groups.end());
+}

@@ -58,12 +58,20 @@ private slots:
 private:
     void buildTable();
     bool isRowNumber(int number) const;
+    // The row of the table's current cell; -1 if there is none.
+    int currentDesignRow() const;
     // The row with this number, its group list sorted first.
     DesignParameterRow& rowAt(int number);
     void drawRow(const DesignParameterRow& row, int number, bool isNew);
     // Draws one row again, or with -1 appends all rows to an empty table.
     void refreshRows(int number);
     void swapRows(int a, int b);
+    // True if some row applies to the remaining groups.
+    bool hasRemainingRow() const;
+    // Appends the groups of all rows but this one to list (not [-1]), then sorts it.
+    void collectUsedGroups(int row, std::vector<int>& list) const;
+    // Takes a list a group dialog gave this row, and shows it in the row's editor if open.
+    void takeGroups(int row, const std::vector<int>& groups, int editorRow);
     void widenColumns();
 
     std::unique_ptr<DesignParameterData> data;

@@ -4,6 +4,7 @@
 
 #include <VKD_A_BarDiameterData.h>
 #include <VKD_H_UnitLabel.h>
+#include <vkd_dbo.h>
 #include <vkd_h_units.h>
 
 #include <QCoreApplication>
@@ -112,29 +113,16 @@ const char* designTypeName(int type)
     return type >= 0 && type < kDesignTypeCount ? kTypeNames[type] : nullptr;
 }
 
-QString secondaryGroupName(int32_t group)
-{
-    const quint32 bits = quint32(group);
-    QString name;
-    for (int i = 0; i < 4; ++i) {
-        const char c = char((bits >> (8 * i)) & 0xFF);
-        if (c == 0)
-            break;
-        name += QLatin1Char(c);
-    }
-    return name.trimmed();
-}
-
 QString groupListText(const std::vector<int32_t>& groups)
 {
     if (groups.empty())
-        return tr("None");
+        return tr(QT_TRANSLATE_NOOP("DesignParameter", "None"));
     if (groups.size() == 1 && groups.front() == -1)
-        return tr("Remaining Groups");
+        return tr(QT_TRANSLATE_NOOP("DesignParameter", "Remaining Groups"));
     QStringList parts;
     for (int32_t v : groups)
-        parts << (v < kFirstSecondaryGroup ? QStringLiteral("%1").arg(v, 0, 10, QChar(' '))
-                                           : secondaryGroupName(v));
+        parts << (v < vkd::dbo::kFirstSecondaryGroup ? QStringLiteral("%1").arg(v, 0, 10, QChar(' '))
+                                                     : vkd::dbo::secondaryGroupName(v));
     return parts.join(QLatin1Char(';'));
 }
 

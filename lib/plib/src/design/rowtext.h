@@ -23,8 +23,6 @@ const char* designTypeName(int type);
 
 // "None", "Remaining Groups", or the groups joined by ";" in the order of the list.
 QString groupListText(const std::vector<int32_t>& groups);
-// A secondary group's name, packed into its number.
-QString secondaryGroupName(int32_t group);
 
 QString rowText(const DesignParameterRow& row, int column);
 // One value of a row: " - " when not set, the bar text for bar diameters (code 1023), else the

@@ -65,6 +65,12 @@ VKD_H_TableWidget::VKD_H_TableWidget(int rows, int columns, QWidget* parent, con
     setItemDelegate(new ComboColumnDelegate(this));
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked
                     | QAbstractItemView::EditKeyPressed);
+    connect(model(), &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex&, int first, int last) {
+        emit signal_rowCountChanged(rowCount() - (last - first + 1), rowCount());
+    });
+    connect(model(), &QAbstractItemModel::rowsRemoved, this, [this](const QModelIndex&, int first, int last) {
+        emit signal_rowCountChanged(rowCount() + (last - first + 1), rowCount());
+    });
 }
 
 void VKD_H_TableWidget::setContextmenueEnabled_new_del(bool enabled)

@@ -31,6 +31,8 @@ public:
 
 signals:
     void rowsAdded(int row);
+    // The number of rows went from oldCount to newCount, whichever way rows came or went.
+    void signal_rowCountChanged(int oldCount, int newCount);
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
