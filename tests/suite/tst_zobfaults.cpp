@@ -228,13 +228,6 @@ void TestZobFaults::opening()
             f.seek(f.size() - 3000);
             f.write(QByteArray(1500, '\xff'));
         }
-        if (kind == QLatin1String("killed")) {
-            QProcess writer;
-            writer.start(QStringLiteral(ZOB_WRITER), {QStringLiteral("die"), file});
-            QVERIFY(writer.waitForReadyRead(20000));
-            ::kill(pid_t(writer.processId()), SIGKILL);
-            QVERIFY(writer.waitForFinished(20000));
-        }
         if (kind == QLatin1String("exclusive")) {
             holder = startHolder(QStringLiteral("exclusive"), file, 20000);
             QVERIFY(holder);
