@@ -11,9 +11,9 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QScrollBar>
 #include <QSyntaxHighlighter>
 #include <QVBoxLayout>
 
@@ -128,8 +128,10 @@ void ScriptPreview::refresh()
     const int scroll = m_text->verticalScrollBar() ? m_text->verticalScrollBar()->value() : 0;
     m_text->setPlainText(script);
     m_text->verticalScrollBar()->setValue(scroll);
+    const int lines = script.split(QLatin1Char('\n'), Qt::SkipEmptyParts).size();
     m_status->setText(script.isEmpty() ? tr("No plot is chosen: the script is empty.")
-                                       : tr("%n line(s)", nullptr, script.split(QLatin1Char('\n'), Qt::SkipEmptyParts).size()));
+                      : lines == 1     ? tr("1 line")
+                                       : tr("%1 lines").arg(lines));
 }
 
 void ScriptPreview::copy()
@@ -145,6 +147,7 @@ void ScriptPreview::saveAs()
         return;
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(text().toUtf8()) < 0 || !file.commit())
-        VKD_QT_MessageBox::warning(this, tr("Save Script"),
-                                   tr("The script could not be written to %1: %2").arg(path, file.errorString()));
+        VKD_QT_MessageBox::warning(
+            this, tr("Save Script"),
+            tr("The script could not be written to %1: %2").arg(path, file.errorString()));
 }

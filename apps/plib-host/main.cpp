@@ -14,33 +14,45 @@
 #include <newproject.h>
 #include <vkd_q.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QSaveFile>
 #include <QScreen>
-#include <QAbstractButton>
 #include <QTabWidget>
 #include <QTableWidget>
-#include <QTimer>
 #include <QTextStream>
+#include <QTimer>
 #include <QTranslator>
 
 namespace {
 
 // What scripts that call the host can tell apart.
-enum ExitStatus : int { ExitOk = 0, ExitCancelled = 1, ExitUsage = 2, ExitFailure = 3 };
+enum ExitStatus : int
+{
+    ExitOk = 0,
+    ExitCancelled = 1,
+    ExitUsage = 2,
+    ExitFailure = 3
+};
 // What a group dialog closes the host's dialog with to let the user pick groups in the model.
 constexpr int pickInModel = 6;
-enum Language : int { German = 0, English = 1, DesktopLanguage = -1 };
+enum Language : int
+{
+    German = 0,
+    English = 1,
+    DesktopLanguage = -1
+};
 constexpr int languageSetting = 102;
 
 // Pictures for the documentation show the pages at a size of a usual desktop window.
 const QSize screenshotSize(1400, 760);
 
-const char* const usage =
-    "usage: plib-host [--lang de|en] [--script-language de|en] [--script FILE|-] [--screenshots DIR] [PROJECT]\n";
+const char* const usage = "usage: plib-host [--lang de|en] [--script-language de|en] [--script FILE|-] "
+                          "[--screenshots DIR] [PROJECT]\n";
 
 struct Options
 {
@@ -94,6 +106,19 @@ Options parse(const QStringList& args)
         }
     }
     return o;
+}
+
+QtMessageHandler qtMessages = nullptr;
+
+// Notes of Qt that tell an engineer nothing: the offscreen platform cannot hint window sizes, and
+// a session without a runtime folder gets one in /tmp.
+void dropPlatformNotes(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (message == QLatin1String("This plugin does not support propagateSizeHints()") ||
+        message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+        return;
+    if (qtMessages)
+        qtMessages(type, context, message);
 }
 
 bool hasDisplay()
@@ -173,12 +198,13 @@ int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, Q
         dialog.resize(dialog.sizeHint().expandedTo(screenshotSize));
         dialog.show();
         QTabWidget* tabs = dialog.tabWidget();
-        const QStringList names{QStringLiteral("design"), QStringLiteral("output"), QStringLiteral("pagesplitting"),
-                                QStringLiteral("loadcases")};
+        const QStringList names{QStringLiteral("design"), QStringLiteral("output"),
+                                QStringLiteral("pagesplitting"), QStringLiteral("loadcases")};
         for (int i = 0; i < tabs->count(); ++i) {
             tabs->setCurrentIndex(i);
             QCoreApplication::processEvents();
-            const QString file = QDir(options.screenshots).filePath(names.value(i, QString::number(i)) + QStringLiteral(".png"));
+            const QString file = QDir(options.screenshots)
+                                     .filePath(names.value(i, QString::number(i)) + QStringLiteral(".png"));
             if (!dialog.grab().save(file)) {
                 err << "plib-host: cannot write " << file << '\n';
                 status = ExitFailure;
@@ -192,10 +218,12 @@ int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, Q
         pick.close();
         if (!saveDesignDialogPictures(dialog, QDir(options.screenshots), err))
             status = ExitFailure;
-        err << "saved pictures of the pages and dialogs to " << QDir(options.screenshots).absolutePath() << '\n';
+        err << "saved pictures of the pages and dialogs to " << QDir(options.screenshots).absolutePath()
+            << '\n';
     }
     if (!options.script.isEmpty()) {
-        const QByteArray script = PlibHostDialog::script(dialog.outputPage(), options.englishKeywords).toUtf8();
+        const QByteArray script =
+            PlibHostDialog::script(dialog.outputPage(), options.englishKeywords).toUtf8();
         if (options.script == QLatin1String("-")) {
             err.flush();
             QFile stdOut;
@@ -204,7 +232,8 @@ int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, Q
         } else {
             QSaveFile file(options.script);
             if (!file.open(QIODevice::WriteOnly) || file.write(script) < 0 || !file.commit()) {
-                err << "plib-host: cannot write the script to " << options.script << ": " << file.errorString() << '\n';
+                err << "plib-host: cannot write the script to " << options.script << ": "
+                    << file.errorString() << '\n';
                 return ExitFailure;
             }
         }
@@ -228,6 +257,7 @@ int main(int argc, char** argv)
         err << "plib-host: " << options.error << '\n' << usage;
         return ExitUsage;
     }
+    qtMessages = qInstallMessageHandler(dropPlatformNotes);
     if (!hasDisplay()) {
         if (!options.batch()) {
             err << "plib-host: no display; run with --script or --screenshots to work without one\n";
@@ -245,16 +275,17 @@ int main(int argc, char** argv)
     installQtTranslation(app);
 
     QString path = options.project;
-    if (path.isEmpty()) {
-        path = QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../demo.vkd")));
+    if (path.isEmpty())
+        path = QDir::cleanPath(
+            QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../demo.vkd")));
+    // A project that is not there yet starts as the demo project.
+    if (!QFileInfo::exists(path)) {
         QString error;
-        if (!QFile::exists(path)) {
-            if (!createDemoProject(path, &error)) {
-                err << "plib-host: " << error << '\n';
-                return ExitFailure;
-            }
-            err << "created the demo project " << path << '\n';
+        if (!createDemoProject(path, &error)) {
+            err << "plib-host: " << error << '\n';
+            return ExitFailure;
         }
+        err << "created the demo project " << path << '\n';
     }
     err.flush();
     // A batch run works on a copy in memory: what the pages write while they are built and
@@ -264,6 +295,16 @@ int main(int argc, char** argv)
         err << "plib-host: " << project.errorString() << '\n';
         if (!options.batch())
             VKD_QT_MessageBox::critical(nullptr, QStringLiteral("plib-host"), project.errorString());
+        return ExitFailure;
+    }
+
+    // The dialog would take the user's work and then fail to keep it. The store names the reason
+    // (the file or its folder) when it refuses a write, and a refused write changes nothing.
+    if (!options.batch() && project.isReadOnly()) {
+        project.beginWrite();
+        project.endWrite();
+        err << "plib-host: " << project.lastWriteError() << '\n';
+        VKD_QT_MessageBox::critical(nullptr, QStringLiteral("plib-host"), project.lastWriteError());
         return ExitFailure;
     }
 
