@@ -11,6 +11,7 @@
 #include <VKD_QT_Ok.h>
 #include <vkd_h_units.h>
 
+#include <QIcon>
 #include <QPushButton>
 
 namespace {
@@ -216,6 +217,7 @@ void dlgDistanceDirection::addNote(VKD_QT_GridLayout* grid, int row)
 void dlgDistanceDirection::addFigure(QWidget* box, VKD_QT_GridLayout* grid, const QString& resource)
 {
     auto* figure = new VKD_QT_Label(box, nullptr, Qt::WindowFlags());
-    figure->setPixmap(QPixmap(resource));
+    // QIcon takes the figure drawn at twice the pixels (name@2x.png) where the screen scales by two.
+    figure->setPixmap(QIcon(resource).pixmap(QPixmap(resource).size()));
     grid->addWidget(figure, 0, kFigureColumn, kFigureRows, kFigureColumns, Qt::AlignHCenter);
 }
