@@ -78,10 +78,8 @@ ScriptPreview::ScriptPreview(std::function<QString(bool)> source, bool english, 
     auto* saveButton = new QPushButton(tr("Save As..."), this);
     saveButton->setObjectName(QStringLiteral("saveScript"));
     saveButton->setAutoDefault(false);
+    top->addWidget(m_caption, 1);
     top->addWidget(m_language);
-    top->addWidget(copyButton);
-    top->addWidget(saveButton);
-    top->addStretch(1);
 
     m_text = new QPlainTextEdit(this);
     m_text->setObjectName(QStringLiteral("scriptText"));
@@ -91,13 +89,18 @@ ScriptPreview::ScriptPreview(std::function<QString(bool)> source, bool english, 
     new TorvalHighlighter(m_text->document());
     m_status = new QLabel(this);
     m_status->setObjectName(QStringLiteral("scriptStatus"));
+    m_status->setWordWrap(true);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_caption);
     layout->addLayout(top);
     layout->addWidget(m_text, 1);
-    layout->addWidget(m_status);
+    // The buttons below, beside the line count: the preview then leaves the pages more room.
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(m_status, 1);
+    bottom->addWidget(copyButton);
+    bottom->addWidget(saveButton);
+    layout->addLayout(bottom);
 
     connect(m_language, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &ScriptPreview::refresh);
     connect(copyButton, &QPushButton::clicked, this, &ScriptPreview::copy);

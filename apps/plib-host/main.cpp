@@ -278,8 +278,9 @@ int main(int argc, char** argv)
     if (path.isEmpty())
         path = QDir::cleanPath(
             QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../demo.vkd")));
-    // A project that is not there yet starts as the demo project.
-    if (!QFileInfo::exists(path)) {
+    // A project that is not there yet starts as the demo project: the one beside the build always,
+    // one named by the user in the dialog only, so that a batch run on a mistyped name fails.
+    if (!QFileInfo::exists(path) && (options.project.isEmpty() || !options.batch())) {
         QString error;
         if (!createDemoProject(path, &error)) {
             err << "plib-host: " << error << '\n';
