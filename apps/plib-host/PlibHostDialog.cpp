@@ -78,7 +78,6 @@ PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, bool englishKeywords, QWid
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 2);
     splitter->setChildrenCollapsible(false);
-    m_preview->setMinimumWidth(m_preview->minimumSizeHint().width());
 
     m_refresh = new QTimer(this);
     m_refresh->setSingleShot(true);

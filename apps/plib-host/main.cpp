@@ -48,8 +48,9 @@ enum Language : int
 };
 constexpr int languageSetting = 102;
 
-// Pictures for the documentation show the pages at a size of a usual desktop window.
-const QSize screenshotSize(1400, 760);
+// The size the dialog opens at where the screen has room, and the pictures for the documentation
+// show: the German captions of the output tree fit beside the preview.
+const QSize usualSize(1480, 780);
 
 const char* const usage = "usage: plib-host [--lang de|en] [--script-language de|en] [--script FILE|-] "
                           "[--screenshots DIR] [PROJECT]\n";
@@ -195,7 +196,7 @@ int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, Q
             err << "plib-host: cannot create the folder " << options.screenshots << '\n';
             return ExitFailure;
         }
-        dialog.resize(dialog.sizeHint().expandedTo(screenshotSize));
+        dialog.resize(dialog.sizeHint().expandedTo(usualSize));
         dialog.show();
         QTabWidget* tabs = dialog.tabWidget();
         const QStringList names{QStringLiteral("design"), QStringLiteral("output"),
@@ -314,7 +315,7 @@ int main(int argc, char** argv)
         return runBatch(dialog, project.index(), options, err);
 
     // As large as the pages would like, within the screen.
-    QSize size = dialog.sizeHint().expandedTo(QSize(1200, 720));
+    QSize size = dialog.sizeHint().expandedTo(usualSize);
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         size = size.boundedTo(screen->availableSize() * 9 / 10);
     dialog.resize(size);
