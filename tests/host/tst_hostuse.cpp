@@ -80,9 +80,6 @@ void TestHostUse::contentSwitch_data()
     QTest::newRow("section cuts, graphical output")
         << false << int(ContentTagSwitch::SectionCuts) << QStringList{"Position of the cuts", "Section cuts"}
         << QStringList{"Tendons in quad elements"};
-    QTest::newRow("bricks, graphical output")
-        << false << int(ContentTagSwitch::Bricks) << QStringList{"Brick elements", "Bricks"}
-        << QStringList{"Tendons in beams"};
     // The split page offers the structure of bricks, not their results.
     QTest::newRow("bricks, page splitting")
         << true << int(ContentTagSwitch::Bricks) << QStringList{"Brick elements"} << QStringList{"Bricks"};
@@ -181,26 +178,19 @@ void TestHostUse::newRowComesIntoSight()
 
 void TestHostUse::badInput_data()
 {
-    // "@" stands for a damaged project file in the test's folder, "%" for the demo project, "~" for
-    // a folder that is not there. Usage errors (2) name the option; failures (3) give one line naming the
-    // file.
+    // "@" stands for a damaged project file in the test's folder, "%" for the demo project,
+    // "~" for a folder that is not there. Usage errors (2) name the option; failures (3) give
+    // one line naming the file.
     QTest::addColumn<QString>("program");
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("said");
     const QString host = QStringLiteral(PLIB_HOST);
     const QString tool = QStringLiteral(PROJECT_TOOL);
-    QTest::newRow("host, unknown option")
-        << host << QStringList{"--bogus", "@"} << 2 << "unknown option --bogus";
-    QTest::newRow("host, language fr") << host << QStringList{"--lang", "fr"} << 2 << "--lang takes de or en";
     QTest::newRow("host, keywords without a value")
         << host << QStringList{"@", "--script-language"} << 2 << "--script-language needs a value";
-    QTest::newRow("host, two projects")
-        << host << QStringList{"@", "other.vkd", "--script", "-"} << 2 << "one project only: other.vkd";
     QTest::newRow("host, damaged project")
         << host << QStringList{"--script", "-", "@"} << 3 << "@ is not a project file.";
-    QTest::newRow("host, project in a missing folder")
-        << host << QStringList{"--script", "-", "~/p.vkd"} << 3 << "The project file ~/p.vkd does not exist.";
     QTest::newRow("host, batch run on a project not made yet")
         << host << QStringList{"--script", "-", "none.vkd"} << 3
         << "The project file none.vkd does not exist.";
