@@ -63,6 +63,7 @@ struct Options
     QString screenshots;
     QString project;
     QString error;
+    bool help = false;
 
     bool batch() const { return !script.isEmpty() || !screenshots.isEmpty(); }
 };
@@ -98,6 +99,8 @@ Options parse(const QStringList& args)
             o.script = args[++i];
         } else if (arg == QLatin1String("--screenshots")) {
             o.screenshots = args[++i];
+        } else if (arg == QLatin1String("--help") || arg == QLatin1String("-h")) {
+            o.help = true;
         } else if (arg.startsWith(QLatin1Char('-')) && arg != QLatin1String("-")) {
             o.error = QStringLiteral("unknown option %1").arg(arg);
         } else if (o.project.isEmpty()) {
@@ -257,6 +260,14 @@ int main(int argc, char** argv)
     if (!options.error.isEmpty()) {
         err << "plib-host: " << options.error << '\n' << usage;
         return ExitUsage;
+    }
+    if (options.help) {
+        QTextStream(stdout)
+            << usage
+            << "Opens PROJECT (the demo project beside the build without one) in the project dialog.\n"
+               "--script and --screenshots work without a window and leave the project as it is.\n"
+               "Exit status: 0 OK, 1 Cancel, 2 a usage error, 3 a failure.\n";
+        return ExitOk;
     }
     qtMessages = qInstallMessageHandler(dropPlatformNotes);
     if (!hasDisplay()) {
