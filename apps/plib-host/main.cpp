@@ -217,8 +217,11 @@ int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, Q
         GroupPickDialog pick(projectIndex, &dialog);
         pick.show();
         QCoreApplication::processEvents();
-        if (!pick.grab().save(QDir(options.screenshots).filePath(QStringLiteral("grouppick.png"))))
+        const QString pickFile = QDir(options.screenshots).filePath(QStringLiteral("grouppick.png"));
+        if (!pick.grab().save(pickFile)) {
+            err << "plib-host: cannot write " << pickFile << '\n';
             status = ExitFailure;
+        }
         pick.close();
         if (!saveDesignDialogPictures(dialog, QDir(options.screenshots), err))
             status = ExitFailure;
