@@ -4,9 +4,10 @@
 # script and saves a picture of each page to build/screenshots.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-bash scripts/build.sh
+# The build reports on standard error, so that standard output carries the script alone.
+bash scripts/build.sh >&2
 project=build/demo.vkd
-[ -f "$project" ] || build/bin/plib-project create "$project"
+[ -f "$project" ] || build/bin/plib-project create "$project" >&2
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
   build/bin/plib-host --script - --screenshots build/screenshots "$@" "$project"
 else

@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -16,9 +17,10 @@ GroupPickDialog::GroupPickDialog(int projectIndex, QWidget* parent) : QDialog(pa
     setObjectName(QStringLiteral("groupPick"));
     setWindowTitle(tr("Pick Groups in the Model"));
     auto* layout = new QVBoxLayout(this);
-    auto* note = new QLabel(tr("Choose the groups for the row in the model: click, Ctrl-click or drag a rectangle "
-                               "over them (a right drag turns the model), or in the list."),
-                            this);
+    auto* note =
+        new QLabel(tr("Choose the groups for the row in the model: click, Ctrl-click or drag a rectangle "
+                      "over them (a right drag turns the model), or in the list."),
+                   this);
     note->setWordWrap(true);
     layout->addWidget(note);
     auto* splitter = new QSplitter(this);
@@ -34,9 +36,13 @@ GroupPickDialog::GroupPickDialog(int projectIndex, QWidget* parent) : QDialog(pa
         item->setData(Qt::UserRole, g.number);
     }
     for (const GroupRecord& g : readAll<GroupRecord>(projectIndex, KeySecondaryGroups)) {
-        auto* item = new QListWidgetItem(QStringLiteral("%1  %2").arg(secondaryGroupName(g.number), groupTitle(g)), m_list);
+        auto* item = new QListWidgetItem(
+            QStringLiteral("%1  %2").arg(secondaryGroupName(g.number), groupTitle(g)), m_list);
         item->setData(Qt::UserRole, g.number);
     }
+    // The list shows its titles whole; the model takes the rest.
+    m_list->setMinimumWidth(m_list->sizeHintForColumn(0) + 2 * m_list->frameWidth() +
+                            m_list->verticalScrollBar()->sizeHint().width());
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 1);
     layout->addWidget(splitter, 1);
@@ -46,7 +52,7 @@ GroupPickDialog::GroupPickDialog(int projectIndex, QWidget* parent) : QDialog(pa
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    resize(760, 480);
+    resize(sizeHint().expandedTo(QSize(760, 480)));
 }
 
 void GroupPickDialog::showPickInList()

@@ -1,5 +1,6 @@
 #include "PlibHostDialog.h"
 
+#include "ContentTagSwitch.h"
 #include "LoadCasePage.h"
 #include "ScriptPreview.h"
 
@@ -32,11 +33,14 @@ namespace {
 const QString outputStateKey = QStringLiteral("GraphicalOutput");
 const QString splitStateKey = QStringLiteral("PageSplitting");
 const QString loadCaseStateKey = QStringLiteral("LoadCases");
+const QString outputContentKey = QStringLiteral("GraphicalOutputContent");
+const QString splitContentKey = QStringLiteral("PageSplittingContent");
 
 } // namespace
 
 PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, bool englishKeywords, QWidget* parent)
-    : VKD_QT_TabDialog(parent, "plibHost"), m_project(project), m_parameter(new VKD_H_PluginParameter(project))
+    : VKD_QT_TabDialog(parent, "plibHost"), m_project(project),
+      m_parameter(new VKD_H_PluginParameter(project))
 {
     setWindowTitle(tr("Project %1").arg(QFileInfo(project->path()).fileName()));
     // The pages are children of the dialog from the start, so that they find the dialog they
@@ -47,17 +51,20 @@ PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, bool englishKeywords, QWid
                                                new AnimatorView(project->index()));
     m_split = new VKD_P_WidgetGraphicalOutput(this, GraphicalOutputSplit, m_parameter.get(), nullptr);
     m_loadCases = new LoadCasePage(project->index(), this);
+    m_outputContent = new ContentTagSwitch(m_output, "outputContent");
+    m_splitContent = new ContentTagSwitch(m_split, "splitContent");
     addTab(m_design, tr("Design Parameters"));
-    addTab(m_output, tr("Graphical Output"));
-    addTab(m_split, tr("Page Splitting"));
+    addTab(outputTab(m_output, m_outputContent), tr("Graphical Output"));
+    m_splitTab = outputTab(m_split, m_splitContent);
+    addTab(m_splitTab, tr("Page Splitting"));
     addTab(m_loadCases, tr("Load Cases"));
 
     m_outputRows.reset(new VKD_P_WidgetGraphicalOutput_TableWidgetData);
-    m_outputRows->setWidgets(m_output, m_loadCases->table(), LoadCasePage::NumberColumn, LoadCasePage::UseColumn,
-                             LoadCasePage::TitleColumn);
+    m_outputRows->setWidgets(m_output, m_loadCases->table(), LoadCasePage::NumberColumn,
+                             LoadCasePage::UseColumn, LoadCasePage::TitleColumn);
     m_splitRows.reset(new VKD_P_WidgetGraphicalOutput_TableWidgetData);
-    m_splitRows->setWidgets(m_split, m_loadCases->table(), LoadCasePage::NumberColumn, LoadCasePage::UseColumn,
-                            LoadCasePage::TitleColumn);
+    m_splitRows->setWidgets(m_split, m_loadCases->table(), LoadCasePage::NumberColumn,
+                            LoadCasePage::UseColumn, LoadCasePage::TitleColumn);
     connect(m_loadCases, &LoadCasePage::choiceChanged, this, &PlibHostDialog::applyLoadCaseChoice);
 
     // The script beside the tabs: the dialog's first child in the layout is the tab widget.
@@ -71,7 +78,6 @@ PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, bool englishKeywords, QWid
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 2);
     splitter->setChildrenCollapsible(false);
-    m_preview->setMinimumWidth(m_preview->minimumSizeHint().width());
 
     m_refresh = new QTimer(this);
     m_refresh->setSingleShot(true);
@@ -90,11 +96,23 @@ PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, bool englishKeywords, QWid
     followChangesOf(m_output);
     followChangesOf(m_split);
     connect(m_loadCases, &LoadCasePage::choiceChanged, m_refresh, QOverload<>::of(&QTimer::start));
+    for (ContentTagSwitch* content : {m_outputContent, m_splitContent})
+        connect(content, &ContentTagSwitch::choiceChanged, m_refresh, QOverload<>::of(&QTimer::start));
     connect(this, &VKD_QT_TabDialog::currentChanged, this, &PlibHostDialog::showCurrentPage);
     showCurrentPage();
 }
 
 PlibHostDialog::~PlibHostDialog() = default;
+
+QWidget* PlibHostDialog::outputTab(VKD_P_WidgetGraphicalOutput* page, ContentTagSwitch* content)
+{
+    auto* tab = new QWidget(this);
+    auto* layout = new QVBoxLayout(tab);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(content);
+    layout->addWidget(page, 1);
+    return tab;
+}
 
 void PlibHostDialog::restoreStates()
 {
@@ -103,6 +121,13 @@ void PlibHostDialog::restoreStates()
     m_pageStates.load(m_project->index());
     m_loadCases->applyState(m_pageStates.getEntry(loadCaseStateKey, QString()));
     applyLoadCaseChoice();
+    // Before the choices in the trees, so that a plot of switched-on content is there to be ticked.
+    for (const auto& kept : {std::make_pair(m_outputContent, outputContentKey),
+                             std::make_pair(m_splitContent, splitContentKey)}) {
+        const int choice = m_pageStates.getEntry(kept.second, QString()).toInt();
+        if (choice != ContentTagSwitch::ModelOnly)
+            kept.first->setChoice(choice);
+    }
     // After the rows: a real change of the rows brings back the tree's default choice.
     // A project that never kept the page starts from the page's defaults, its view included.
     const QString output = m_pageStates.getEntry(outputStateKey, QString());
@@ -142,7 +167,7 @@ void PlibHostDialog::applyLoadCaseChoice()
 
 VKD_P_WidgetGraphicalOutput* PlibHostDialog::previewedPage() const
 {
-    return tabWidget()->currentWidget() == m_split ? m_split : m_output;
+    return tabWidget()->currentWidget() == m_splitTab ? m_split : m_output;
 }
 
 void PlibHostDialog::showCurrentPage()
@@ -177,6 +202,8 @@ PlibHostDialog::SaveResult PlibHostDialog::save(QString* error)
     m_pageStates.setEntry(outputStateKey, m_output->writeXMLstring());
     m_pageStates.setEntry(splitStateKey, m_split->writeXMLstring());
     m_pageStates.setEntry(loadCaseStateKey, m_loadCases->stateText());
+    m_pageStates.setEntry(outputContentKey, QString::number(m_outputContent->choice()));
+    m_pageStates.setEntry(splitContentKey, QString::number(m_splitContent->choice()));
     m_pageStates.save(m_project->index());
     m_project->endWrite();
     QApplication::restoreOverrideCursor();
@@ -189,8 +216,8 @@ PlibHostDialog::SaveResult PlibHostDialog::save(QString* error)
 
     for (VKD_P_WidgetGraphicalOutput* page : {m_output, m_split}) {
         QSaveFile file(scriptPath(page));
-        if (!file.open(QIODevice::WriteOnly) || file.write(script(page, m_preview->englishKeywords()).toUtf8()) < 0 ||
-            !file.commit()) {
+        if (!file.open(QIODevice::WriteOnly) ||
+            file.write(script(page, m_preview->englishKeywords()).toUtf8()) < 0 || !file.commit()) {
             *error = tr("The script could not be written to %1: %2. The project was saved.")
                          .arg(QDir::toNativeSeparators(scriptPath(page)), file.errorString());
             return ScriptNotWritten;

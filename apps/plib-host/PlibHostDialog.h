@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class ContentTagSwitch;
 class LoadCasePage;
 class QTimer;
 class ScriptPreview;
@@ -23,7 +24,11 @@ class PlibHostDialog : public VKD_QT_TabDialog
     Q_OBJECT
 public:
     // Project dialog pages of the project (key pair 95, page number) that the host keeps.
-    enum StoredPage : int { DesignEntriesPage = 1, PageStatesPage = 2 };
+    enum StoredPage : int
+    {
+        DesignEntriesPage = 1,
+        PageStatesPage = 2
+    };
 
     explicit PlibHostDialog(VKD_H_ZOBDoc* project, bool englishKeywords = true, QWidget* parent = nullptr);
     ~PlibHostDialog() override;
@@ -32,13 +37,21 @@ public:
     VKD_P_WidgetGraphicalOutput* outputPage() const { return m_output; }
     VKD_P_WidgetGraphicalOutput* splitPage() const { return m_split; }
     ScriptPreview* preview() const { return m_preview; }
+    // The plots each output page offers beyond what the model holds.
+    ContentTagSwitch* outputContent() const { return m_outputContent; }
+    ContentTagSwitch* splitContent() const { return m_splitContent; }
 
     // The script of an output page with English or German keywords, and where OK writes it:
     // beside the project, named after it, "<project>.grav" for the graphical output and
     // "<project>.split.grav" for the page splitting.
     static QString script(VKD_P_WidgetGraphicalOutput* page, bool english);
     QString scriptPath(const VKD_P_WidgetGraphicalOutput* page) const;
-    enum SaveResult { Saved, ProjectNotSaved, ScriptNotWritten };
+    enum SaveResult
+    {
+        Saved,
+        ProjectNotSaved,
+        ScriptNotWritten
+    };
     // Writes the design parameters and the states of the pages into the project as one write,
     // then the scripts; with the reason in *error where something did not land.
     SaveResult save(QString* error);
@@ -50,6 +63,8 @@ public slots:
 private:
     void restoreStates();
     void followChangesOf(QWidget* page);
+    // The tab of an output page: the page below its content switch.
+    QWidget* outputTab(VKD_P_WidgetGraphicalOutput* page, ContentTagSwitch* content);
     void applyLoadCaseChoice();
     // The output page that the preview shows: that of the current tab, else the graphical output.
     VKD_P_WidgetGraphicalOutput* previewedPage() const;
@@ -63,6 +78,9 @@ private:
     VKD_P_WidgetGraphicalOutput* m_output;
     VKD_P_WidgetGraphicalOutput* m_split;
     LoadCasePage* m_loadCases;
+    ContentTagSwitch* m_outputContent;
+    ContentTagSwitch* m_splitContent;
+    QWidget* m_splitTab;
     std::unique_ptr<VKD_P_WidgetGraphicalOutput_TableWidgetData> m_outputRows;
     std::unique_ptr<VKD_P_WidgetGraphicalOutput_TableWidgetData> m_splitRows;
     ScriptPreview* m_preview;

@@ -11,9 +11,9 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QScrollBar>
 #include <QSyntaxHighlighter>
 #include <QVBoxLayout>
 
@@ -78,10 +78,8 @@ ScriptPreview::ScriptPreview(std::function<QString(bool)> source, bool english, 
     auto* saveButton = new QPushButton(tr("Save As..."), this);
     saveButton->setObjectName(QStringLiteral("saveScript"));
     saveButton->setAutoDefault(false);
+    top->addWidget(m_caption, 1);
     top->addWidget(m_language);
-    top->addWidget(copyButton);
-    top->addWidget(saveButton);
-    top->addStretch(1);
 
     m_text = new QPlainTextEdit(this);
     m_text->setObjectName(QStringLiteral("scriptText"));
@@ -91,13 +89,18 @@ ScriptPreview::ScriptPreview(std::function<QString(bool)> source, bool english, 
     new TorvalHighlighter(m_text->document());
     m_status = new QLabel(this);
     m_status->setObjectName(QStringLiteral("scriptStatus"));
+    m_status->setWordWrap(true);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_caption);
     layout->addLayout(top);
     layout->addWidget(m_text, 1);
-    layout->addWidget(m_status);
+    // The buttons below, beside the line count: the preview then leaves the pages more room.
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(m_status, 1);
+    bottom->addWidget(copyButton);
+    bottom->addWidget(saveButton);
+    layout->addLayout(bottom);
 
     connect(m_language, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &ScriptPreview::refresh);
     connect(copyButton, &QPushButton::clicked, this, &ScriptPreview::copy);
@@ -128,8 +131,10 @@ void ScriptPreview::refresh()
     const int scroll = m_text->verticalScrollBar() ? m_text->verticalScrollBar()->value() : 0;
     m_text->setPlainText(script);
     m_text->verticalScrollBar()->setValue(scroll);
+    const int lines = script.split(QLatin1Char('\n'), Qt::SkipEmptyParts).size();
     m_status->setText(script.isEmpty() ? tr("No plot is chosen: the script is empty.")
-                                       : tr("%n line(s)", nullptr, script.split(QLatin1Char('\n'), Qt::SkipEmptyParts).size()));
+                      : lines == 1     ? tr("1 line")
+                                       : tr("%1 lines").arg(lines));
 }
 
 void ScriptPreview::copy()
@@ -145,6 +150,7 @@ void ScriptPreview::saveAs()
         return;
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(text().toUtf8()) < 0 || !file.commit())
-        VKD_QT_MessageBox::warning(this, tr("Save Script"),
-                                   tr("The script could not be written to %1: %2").arg(path, file.errorString()));
+        VKD_QT_MessageBox::warning(
+            this, tr("Save Script"),
+            tr("The script could not be written to %1: %2").arg(path, file.errorString()));
 }

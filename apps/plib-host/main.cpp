@@ -14,32 +14,40 @@
 #include <newproject.h>
 #include <vkd_q.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QSaveFile>
 #include <QScreen>
-#include <QAbstractButton>
 #include <QTabWidget>
 #include <QTableWidget>
-#include <QTimer>
 #include <QTextStream>
+#include <QTimer>
 #include <QTranslator>
 
 namespace {
 
 // What scripts that call the host can tell apart.
-enum ExitStatus : int { ExitOk = 0, ExitCancelled = 1, ExitUsage = 2, ExitFailure = 3 };
+enum ExitStatus : int
+{
+    ExitOk = 0,
+    ExitCancelled = 1,
+    ExitUsage = 2,
+    ExitFailure = 3
+};
 // What a group dialog closes the host's dialog with to let the user pick groups in the model.
 constexpr int pickInModel = 6;
 enum Language : int { German = 0, English = 1, DesktopLanguage = -1 };
 
-// Pictures for the documentation show the pages at a size of a usual desktop window.
-const QSize screenshotSize(1400, 760);
+// The size the dialog opens at where the screen has room, and the pictures for the documentation
+// show: the German captions of the output tree fit beside the preview.
+const QSize usualSize(1480, 780);
 
-const char* const usage =
-    "usage: plib-host [--lang de|en] [--script-language de|en] [--script FILE|-] [--screenshots DIR] [PROJECT]\n";
+const char* const usage = "usage: plib-host [--lang de|en] [--script-language de|en] [--script FILE|-] "
+                          "[--screenshots DIR] [PROJECT]\n";
 
 struct Options
 {
@@ -49,6 +57,7 @@ struct Options
     QString screenshots;
     QString project;
     QString error;
+    bool help = false;
 
     bool batch() const { return !script.isEmpty() || !screenshots.isEmpty(); }
 };
@@ -84,6 +93,8 @@ Options parse(const QStringList& args)
             o.script = args[++i];
         } else if (arg == QLatin1String("--screenshots")) {
             o.screenshots = args[++i];
+        } else if (arg == QLatin1String("--help") || arg == QLatin1String("-h")) {
+            o.help = true;
         } else if (arg.startsWith(QLatin1Char('-')) && arg != QLatin1String("-")) {
             o.error = QStringLiteral("unknown option %1").arg(arg);
         } else if (o.project.isEmpty()) {
@@ -93,6 +104,19 @@ Options parse(const QStringList& args)
         }
     }
     return o;
+}
+
+QtMessageHandler qtMessages = nullptr;
+
+// Notes of Qt that tell an engineer nothing: the offscreen platform cannot hint window sizes, and
+// a session without a runtime folder gets one in /tmp.
+void dropPlatformNotes(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (message == QLatin1String("This plugin does not support propagateSizeHints()") ||
+        message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+        return;
+    if (qtMessages)
+        qtMessages(type, context, message);
 }
 
 bool hasDisplay()
@@ -169,15 +193,16 @@ int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, Q
             err << "plib-host: cannot create the folder " << options.screenshots << '\n';
             return ExitFailure;
         }
-        dialog.resize(dialog.sizeHint().expandedTo(screenshotSize));
+        dialog.resize(dialog.sizeHint().expandedTo(usualSize));
         dialog.show();
         QTabWidget* tabs = dialog.tabWidget();
-        const QStringList names{QStringLiteral("design"), QStringLiteral("output"), QStringLiteral("pagesplitting"),
-                                QStringLiteral("loadcases")};
+        const QStringList names{QStringLiteral("design"), QStringLiteral("output"),
+                                QStringLiteral("pagesplitting"), QStringLiteral("loadcases")};
         for (int i = 0; i < tabs->count(); ++i) {
             tabs->setCurrentIndex(i);
             QCoreApplication::processEvents();
-            const QString file = QDir(options.screenshots).filePath(names.value(i, QString::number(i)) + QStringLiteral(".png"));
+            const QString file = QDir(options.screenshots)
+                                     .filePath(names.value(i, QString::number(i)) + QStringLiteral(".png"));
             if (!dialog.grab().save(file)) {
                 err << "plib-host: cannot write " << file << '\n';
                 status = ExitFailure;
@@ -186,15 +211,20 @@ int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, Q
         GroupPickDialog pick(projectIndex, &dialog);
         pick.show();
         QCoreApplication::processEvents();
-        if (!pick.grab().save(QDir(options.screenshots).filePath(QStringLiteral("grouppick.png"))))
+        const QString pickFile = QDir(options.screenshots).filePath(QStringLiteral("grouppick.png"));
+        if (!pick.grab().save(pickFile)) {
+            err << "plib-host: cannot write " << pickFile << '\n';
             status = ExitFailure;
+        }
         pick.close();
         if (!saveDesignDialogPictures(dialog, QDir(options.screenshots), err))
             status = ExitFailure;
-        err << "saved pictures of the pages and dialogs to " << QDir(options.screenshots).absolutePath() << '\n';
+        err << "saved pictures of the pages and dialogs to " << QDir(options.screenshots).absolutePath()
+            << '\n';
     }
     if (!options.script.isEmpty()) {
-        const QByteArray script = PlibHostDialog::script(dialog.outputPage(), options.englishKeywords).toUtf8();
+        const QByteArray script =
+            PlibHostDialog::script(dialog.outputPage(), options.englishKeywords).toUtf8();
         if (options.script == QLatin1String("-")) {
             err.flush();
             QFile stdOut;
@@ -203,7 +233,8 @@ int runBatch(PlibHostDialog& dialog, int projectIndex, const Options& options, Q
         } else {
             QSaveFile file(options.script);
             if (!file.open(QIODevice::WriteOnly) || file.write(script) < 0 || !file.commit()) {
-                err << "plib-host: cannot write the script to " << options.script << ": " << file.errorString() << '\n';
+                err << "plib-host: cannot write the script to " << options.script << ": "
+                    << file.errorString() << '\n';
                 return ExitFailure;
             }
         }
@@ -227,6 +258,15 @@ int main(int argc, char** argv)
         err << "plib-host: " << options.error << '\n' << usage;
         return ExitUsage;
     }
+    if (options.help) {
+        QTextStream(stdout)
+            << usage
+            << "Opens PROJECT (the demo project beside the build without one) in the project dialog.\n"
+               "--script and --screenshots work without a window and leave the project as it is.\n"
+               "Exit status: 0 OK, 1 Cancel, 2 a usage error, 3 a failure.\n";
+        return ExitOk;
+    }
+    qtMessages = qInstallMessageHandler(dropPlatformNotes);
     if (!hasDisplay()) {
         if (!options.batch()) {
             err << "plib-host: no display; run with --script or --screenshots to work without one\n";
@@ -244,16 +284,18 @@ int main(int argc, char** argv)
     installQtTranslation(app);
 
     QString path = options.project;
-    if (path.isEmpty()) {
-        path = QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../demo.vkd")));
+    if (path.isEmpty())
+        path = QDir::cleanPath(
+            QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../demo.vkd")));
+    // A project that is not there yet starts as the demo project: the one beside the build always,
+    // one named by the user in the dialog only, so that a batch run on a mistyped name fails.
+    if (!QFileInfo::exists(path) && (options.project.isEmpty() || !options.batch())) {
         QString error;
-        if (!QFile::exists(path)) {
-            if (!createDemoProject(path, &error)) {
-                err << "plib-host: " << error << '\n';
-                return ExitFailure;
-            }
-            err << "created the demo project " << path << '\n';
+        if (!createDemoProject(path, &error)) {
+            err << "plib-host: " << error << '\n';
+            return ExitFailure;
         }
+        err << "created the demo project " << path << '\n';
     }
     err.flush();
     // A batch run works on a copy in memory: what the pages write while they are built and
@@ -266,12 +308,22 @@ int main(int argc, char** argv)
         return ExitFailure;
     }
 
+    // The dialog would take the user's work and then fail to keep it. The store names the reason
+    // (the file or its folder) when it refuses a write, and a refused write changes nothing.
+    if (!options.batch() && project.isReadOnly()) {
+        project.beginWrite();
+        project.endWrite();
+        err << "plib-host: " << project.lastWriteError() << '\n';
+        VKD_QT_MessageBox::critical(nullptr, QStringLiteral("plib-host"), project.lastWriteError());
+        return ExitFailure;
+    }
+
     PlibHostDialog dialog(&project, options.englishKeywords);
     if (options.batch())
         return runBatch(dialog, project.index(), options, err);
 
     // As large as the pages would like, within the screen.
-    QSize size = dialog.sizeHint().expandedTo(QSize(1200, 720));
+    QSize size = dialog.sizeHint().expandedTo(usualSize);
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         size = size.boundedTo(screen->availableSize() * 9 / 10);
     dialog.resize(size);

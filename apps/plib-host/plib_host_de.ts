@@ -89,12 +89,13 @@
         <source>The script could not be written to %1: %2</source>
         <translation>Das Skript konnte nicht nach %1 geschrieben werden: %2</translation>
     </message>
-    <message numerus="yes">
-        <source>%n line(s)</source>
-        <translation>
-            <numerusform>%n Zeile</numerusform>
-            <numerusform>%n Zeilen</numerusform>
-        </translation>
+    <message>
+        <source>1 line</source>
+        <translation>1 Zeile</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 Zeilen</translation>
     </message>
 </context>
 <context>
@@ -106,6 +107,33 @@
     <message>
         <source>Choose the groups for the row in the model: click, Ctrl-click or drag a rectangle over them (a right drag turns the model), or in the list.</source>
         <translation>Wählen Sie die Gruppen der Zeile im Modell: Klick, Strg-Klick oder ein Rechteck darüber ziehen (Ziehen mit der rechten Maustaste dreht das Modell), oder in der Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>ContentTagSwitch</name>
+    <message>
+        <source>What the model holds</source>
+        <translation>Was das Modell enthält</translation>
+    </message>
+    <message>
+        <source>Also prestressing</source>
+        <translation>Auch Vorspannung</translation>
+    </message>
+    <message>
+        <source>Also section cuts</source>
+        <translation>Auch Schnitte</translation>
+    </message>
+    <message>
+        <source>Also bricks</source>
+        <translation>Auch Volumenelemente</translation>
+    </message>
+    <message>
+        <source>Plots offered</source>
+        <translation>Angebotene Grafiken</translation>
+    </message>
+    <message>
+        <source>Plots of results the model does not show by itself, such as those of a separate prestressing run, are offered only when chosen here.</source>
+        <translation>Grafiken von Ergebnissen, die das Modell nicht selbst zeigt, etwa die einer eigenen Berechnung der Vorspannung, werden nur angeboten, wenn sie hier gewählt sind.</translation>
     </message>
 </context>
 </TS>

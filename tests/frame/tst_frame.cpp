@@ -78,9 +78,15 @@ private slots:
                            "neq_designline_zrt_bew_mod_allg 299x104"));
         const QStringList files =
             QDir(QStringLiteral(":/")).entryList({QStringLiteral("*.png")}, QDir::Files);
-        QCOMPARE(files.size(), 14 + 15);
-        for (const QString& f : files)
-            QVERIFY2(!QImage(QStringLiteral(":/") + f).isNull(), qPrintable(f));
+        // Each figure also drawn at twice the pixels for screens that scale by two.
+        QCOMPARE(files.size(), 2 * (14 + 15));
+        for (const QString& f : files) {
+            const QImage image(QStringLiteral(":/") + f);
+            QVERIFY2(!image.isNull(), qPrintable(f));
+            if (f.endsWith(QLatin1String("@2x.png")))
+                QCOMPARE(image.size(),
+                         QImage(QStringLiteral(":/") + QString(f).remove(QStringLiteral("@2x"))).size() * 2);
+        }
         QVERIFY(VKD_H_PluginFactory(QStringLiteral("VKD_P_DesignParameter")) == nullptr);
     }
 

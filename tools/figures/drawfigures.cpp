@@ -515,19 +515,26 @@ int main(int argc, char** argv)
         {"bearing_elastomer.png", {160, 90}, [](QPainter& p, QSize s) { drawBearing(p, s, 3); }},
         {"bearing_pot.png", {160, 90}, [](QPainter& p, QSize s) { drawBearing(p, s, 4); }},
     };
+    // Each figure also at twice the pixels (name@2x.png), for screens that scale by two.
     for (const Figure& f : figures) {
-        QImage image(f.size, QImage::Format_ARGB32);
-        image.fill(Qt::white);
-        QPainter p(&image);
-        p.setRenderHint(QPainter::Antialiasing);
-        QFont font = p.font();
-        font.setPixelSize(10);
-        p.setFont(font);
-        f.draw(p, f.size);
-        p.end();
-        if (!image.save(out.filePath(QString::fromLatin1(f.name)))) {
-            std::fprintf(stderr, "cannot write %s\n", f.name);
-            return 1;
+        for (int scale = 1; scale <= 2; ++scale) {
+            QImage image(f.size * scale, QImage::Format_ARGB32);
+            image.fill(Qt::white);
+            QPainter p(&image);
+            p.setRenderHint(QPainter::Antialiasing);
+            p.scale(scale, scale);
+            QFont font = p.font();
+            font.setPixelSize(10);
+            p.setFont(font);
+            f.draw(p, f.size);
+            p.end();
+            QString name = QString::fromLatin1(f.name);
+            if (scale == 2)
+                name.replace(QStringLiteral(".png"), QStringLiteral("@2x.png"));
+            if (!image.save(out.filePath(name))) {
+                std::fprintf(stderr, "cannot write %s\n", qPrintable(name));
+                return 1;
+            }
         }
     }
     return argc == 3 && !drawIcons(QDir(QString::fromLocal8Bit(argv[2]))) ? 1 : 0;

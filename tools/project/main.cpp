@@ -14,13 +14,21 @@
 
 namespace {
 
+// As plib-host tells them apart for the scripts that call it.
+enum ExitStatus : int
+{
+    ExitOk = 0,
+    ExitUsage = 2,
+    ExitFailure = 3
+};
+
 int usage(QTextStream& err)
 {
     err << "usage: plib-project create <file>\n"
            "       plib-project dump <file> <key1> <key2>\n"
            "       plib-project model <file>\n"
            "       plib-project design <file>\n";
-    return 2;
+    return ExitUsage;
 }
 
 } // namespace
@@ -37,38 +45,40 @@ int main(int argc, char** argv)
     const QString path = args.at(1);
 
     if (command == QLatin1String("create")) {
+        if (args.size() != 2)
+            return usage(err);
         QString error;
         if (!createDemoProject(path, &error)) {
             err << "plib-project: " << error << '\n';
-            return 1;
+            return ExitFailure;
         }
         out << "created " << path << '\n';
-        return 0;
+        return ExitOk;
     }
 
-    const bool known = (command == QLatin1String("dump") && args.size() == 4) ||
-                       command == QLatin1String("design") || command == QLatin1String("model");
+    const bool dump = command == QLatin1String("dump");
+    bool ok1 = false, ok2 = false;
+    const int key1 = dump && args.size() == 4 ? args.at(2).toInt(&ok1) : 0;
+    const int key2 = dump && args.size() == 4 ? args.at(3).toInt(&ok2) : 0;
+    const bool known =
+        (dump && ok1 && ok2) ||
+        ((command == QLatin1String("design") || command == QLatin1String("model")) && args.size() == 2);
     if (!known)
         return usage(err);
     // The other commands only read: the project and its folder stay exactly as they are.
     VKD_H_ZOBDoc doc(path, VKD_H_ZOBDoc::ReadOnly);
     if (!doc.isValid()) {
         err << "plib-project: " << doc.errorString() << '\n';
-        return 1;
+        return ExitFailure;
     }
-    if (command == QLatin1String("dump") && args.size() == 4) {
-        bool ok1 = false, ok2 = false;
-        const int key1 = args.at(2).toInt(&ok1);
-        const int key2 = args.at(3).toInt(&ok2);
-        if (!ok1 || !ok2)
-            return usage(err);
+    if (dump) {
         out << dumpKeyPair(doc.index(), key1, key2);
-        return 0;
+        return ExitOk;
     }
     if (command == QLatin1String("design")) {
         out << dumpDesignRecords(doc.index());
-        return 0;
+        return ExitOk;
     }
     out << describeModel(doc.index());
-    return 0;
+    return ExitOk;
 }

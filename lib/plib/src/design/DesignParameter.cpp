@@ -26,6 +26,7 @@
 #include <vkd_dbo.h>
 
 #include <QHeaderView>
+#include <QItemSelectionModel>
 
 #include <algorithm>
 #include <list>
@@ -289,8 +290,15 @@ void DesignParameter::slot_newRowClicked()
     while (table->rowCount() > target)
         table->removeRow(table->rowCount() - 1);
     const DesignParameterRow& row = addDefaultRow(*data);
-    drawRow(row, table->rowCount() - 1, true);
+    const int added = table->rowCount() - 1;
+    drawRow(row, added, true);
     widenColumns();
+    // The user goes on in the new row: current on its type, the one cell it edits, and in sight
+    // however long the table has grown. The selection stays as it was, so that no cell editor
+    // moves and Delete still acts on the rows the user chose.
+    const QModelIndex type = table->model()->index(added, table->getColumnNumber(ColumnType));
+    table->selectionModel()->setCurrentIndex(type, QItemSelectionModel::NoUpdate);
+    table->scrollTo(type);
     emit signal_rowCountChanged(table->rowCount());
 }
 

@@ -11,6 +11,7 @@
 #include <VKD_QT_Ok.h>
 #include <vkd_h_units.h>
 
+#include <QFile>
 #include <QPushButton>
 
 namespace {
@@ -216,6 +217,13 @@ void dlgDistanceDirection::addNote(VKD_QT_GridLayout* grid, int row)
 void dlgDistanceDirection::addFigure(QWidget* box, VKD_QT_GridLayout* grid, const QString& resource)
 {
     auto* figure = new VKD_QT_Label(box, nullptr, Qt::WindowFlags());
-    figure->setPixmap(QPixmap(resource));
+    // Where the screen scales by two, the figure drawn at twice the pixels (name@2x.png).
+    QPixmap pixmap(resource);
+    const QString sharp = QString(resource).replace(QStringLiteral(".png"), QStringLiteral("@2x.png"));
+    if (figure->devicePixelRatioF() > 1 && QFile::exists(sharp)) {
+        pixmap = QPixmap(sharp);
+        pixmap.setDevicePixelRatio(2);
+    }
+    figure->setPixmap(pixmap);
     grid->addWidget(figure, 0, kFigureColumn, kFigureRows, kFigureColumns, Qt::AlignHCenter);
 }
