@@ -457,6 +457,7 @@ void GraphicalOutputTreeWidget::addLoadcaseRows(GraphicalOutputTreeWidgetItem* p
     if (kind != 0) {
         const QIcon icon = rowIcon(vkd_lib_getvalue(102));
         QList<QTreeWidgetItem*> children;
+        children.reserve(int(rows.size()));
         for (const LoadcaseInformation& info : rows) {
             if (info.kind != kind)
                 continue;
