@@ -1,3 +1,4 @@
+#include "captiontokens.h"
 #include "catalogue.h"
 #include "testsupport.h"
 
@@ -54,6 +55,7 @@ private slots:
     void togetherAsAlone();
     void numbers_data();
     void numbers();
+    void captionsWithKeptTokenTexts();
 };
 
 void TestCatalogueNeighbours::initTestCase()
@@ -129,6 +131,25 @@ void TestCatalogueNeighbours::numbers()
     const GraphicalOutputRecord& r = records.front();
     const QVector<int> read{r.prog1, r.prog2, r.prog3, r.number7, r.preselect, r.viewKind, r.systemMask};
     QCOMPARE(read, QVector<int>(read.size(), value));
+}
+
+// Token texts kept over a run of captions give what a lookup of each gives; the same key under
+// another sign is another text.
+void TestCatalogueNeighbours::captionsWithKeptTokenTexts()
+{
+    const QStringList fields{
+        "&GTK",    "^GTK",    "&GT0",    "&ABC Fallback",   "^CAR Caret?",  "$DOL",    "1 A&ABC", "U2R&ABC",
+        "2hC&ABC", "B+I&ABC", "O1S&ABC", "&XYZ  Fallback ", "@ND1   Nodes", "U2R&ABC", "^GTK",    "&GTK"};
+    TokenTexts texts;
+    QStringList kept;
+    QStringList alone;
+    for (const QString& field : fields) {
+        kept << captionText(field, &texts);
+        alone << captionText(field);
+    }
+    QCOMPARE(kept, alone);
+    QCOMPARE(alone.at(0), QStringLiteral(" Long"));
+    QCOMPARE(alone.at(1), QStringLiteral(" c>d"));
 }
 
 QTEST_MAIN(TestCatalogueNeighbours)

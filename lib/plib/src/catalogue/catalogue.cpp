@@ -102,7 +102,7 @@ int number(QStringView field)
     return value;
 }
 
-void storeCaption(QStringView part, int column, QString& caption, QString& id)
+void storeCaption(QStringView part, int column, QString& caption, QString& id, TokenTexts& texts)
 {
     // Every plain caption of a column shares one identifier.
     static const QString plainIds[captionColumns] = {QStringLiteral("    001"), QStringLiteral("    002"),
@@ -120,7 +120,7 @@ void storeCaption(QStringView part, int column, QString& caption, QString& id)
     } else {
         id = QStringLiteral("   ") + field.left(4);
     }
-    const QString text = captionText(field);
+    const QString text = captionText(field, &texts);
     caption = text.isEmpty() ? field.mid(prefixLength).trimmed() : text.trimmed();
 }
 
@@ -129,7 +129,7 @@ void storeCaption(QStringView part, int column, QString& caption, QString& id)
 class Captions
 {
 public:
-    explicit Captions(int column) : m_column(column) {}
+    Captions(int column, TokenTexts& texts) : m_column(column), m_texts(texts) {}
 
     void store(QStringView field, QString& caption, QString& id)
     {
@@ -137,7 +137,7 @@ public:
         if (found == m_byField.end()) {
             Resolved resolved;
             resolved.field = field.toString();
-            storeCaption(field, m_column, resolved.caption, resolved.id);
+            storeCaption(field, m_column, resolved.caption, resolved.id, m_texts);
             // The key views the text of the stored field, which a move leaves where it is.
             const QStringView key(resolved.field);
             found = m_byField.emplace(key, std::move(resolved)).first;
@@ -159,6 +159,7 @@ private:
     };
 
     int m_column;
+    TokenTexts& m_texts;
     std::unordered_map<QStringView, Resolved, Hash> m_byField;
 };
 
@@ -210,7 +211,8 @@ void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& recor
     // Not reset between lines: a line of exactly 14 parts keeps the English script of the line
     // before it.
     GraphicalOutputRecord work;
-    Captions captions[captionColumns] = {Captions(0), Captions(1), Captions(2)};
+    TokenTexts texts;
+    Captions captions[captionColumns] = {Captions(0, texts), Captions(1, texts), Captions(2, texts)};
     // Neighbouring lines mostly share their fields: a part equal to the one of the last line
     // read keeps what was made of it. The two lines take turns in two buffers.
     QString lines[2];
