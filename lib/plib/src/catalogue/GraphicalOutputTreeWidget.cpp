@@ -101,7 +101,7 @@ void appendSelection(QString& out, QTreeWidgetItem* treeWidgetItem)
             char digits[16];
             for (int i = 0; i < n; ++i) {
                 const Item* row = treeItem(item->child(i));
-                if (!row || row->checkState(0) != Qt::Checked)
+                if (!row || row->state() != Qt::Checked)
                     continue;
                 const auto end = std::to_chars(digits, digits + sizeof digits, row->number).ptr;
                 *end = ',';
@@ -126,6 +126,21 @@ void appendSelection(QString& out, QTreeWidgetItem* treeWidgetItem)
         out += QLatin1String("Checked:") + id + QLatin1String(":%2\n");
     else if (state == Qt::Unchecked)
         out += QLatin1String("Unchecked:") + id + QLatin1String(":%2\n");
+}
+
+// A row number as QString::toInt() reads it; plain digits are read directly.
+int number(const QStringRef& text)
+{
+    constexpr int digitsThatFit = 9;
+    int value = 0;
+    if (text.isEmpty() || text.size() > digitsThatFit)
+        return text.toInt();
+    for (const QChar c : text) {
+        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+            return text.toInt();
+        value = value * 10 + (c.unicode() - '0');
+    }
+    return value;
 }
 
 // A text of nothing but line feeds is no choice at all and changes nothing.
@@ -245,8 +260,14 @@ private:
     void checkRows(QTreeWidgetItem* item, const QStringRef& numbers)
     {
         std::vector<int> wanted;
-        for (const QStringRef& part : numbers.split(QLatin1Char(','), Qt::SkipEmptyParts))
-            wanted.push_back(part.toInt());
+        int start = 0;
+        for (int i = 0; i <= numbers.size(); ++i) {
+            if (i < numbers.size() && numbers.at(i) != QLatin1Char(','))
+                continue;
+            if (i > start)
+                wanted.push_back(number(numbers.mid(start, i - start)));
+            start = i + 1;
+        }
         std::sort(wanted.begin(), wanted.end());
         wanted.erase(std::unique(wanted.begin(), wanted.end()), wanted.end());
         std::vector<bool> taken(wanted.size());
@@ -284,7 +305,9 @@ private:
         const Span span = spanOf(item, begin);
         if (item->childCount() == 0) {
             const auto state = Qt::CheckState(m_target[size_t(begin)]);
-            if (item->checkState(0) != state)
+            if (Item* row = treeItem(item))
+                row->setState(state);
+            else if (item->checkState(0) != state)
                 item->setCheckState(0, state);
             return span.end;
         }
@@ -314,6 +337,35 @@ GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem(
 }
 
 GraphicalOutputTreeWidgetItem::~GraphicalOutputTreeWidgetItem() = default;
+
+QVariant GraphicalOutputTreeWidgetItem::data(int column, int role) const
+{
+    if (column == 0 && role == Qt::CheckStateRole)
+        return m_checkState == noCheckState ? QVariant() : QVariant(int(m_checkState));
+    return QTreeWidgetItem::data(column, role);
+}
+
+void GraphicalOutputTreeWidgetItem::setData(int column, int role, const QVariant& value)
+{
+    if (column != 0 || role != Qt::CheckStateRole) {
+        QTreeWidgetItem::setData(column, role, value);
+        return;
+    }
+    const qint8 state = value.isValid() ? qint8(value.toInt()) : noCheckState;
+    if (state == m_checkState)
+        return;
+    m_checkState = state;
+    // Tells the view and the automatic update, as the base class does; nothing while detached.
+    emitDataChanged();
+}
+
+void GraphicalOutputTreeWidgetItem::setState(Qt::CheckState state)
+{
+    if (qint8(state) == m_checkState)
+        return;
+    m_checkState = qint8(state);
+    emitDataChanged();
+}
 
 PopupHandler::~PopupHandler()
 {

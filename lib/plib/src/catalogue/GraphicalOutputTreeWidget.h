@@ -31,6 +31,14 @@ public:
     // A caption holds the first record that came through it, a row the record of its plot.
     const GraphicalOutputRecord& record() const { return *m_record; }
 
+    // The check state of column 0 is a member, not an entry in the item's list of values: setting
+    // it costs no copy of that list, and a tree of 150 000 rows sets and reads it often.
+    QVariant data(int column, int role) const override;
+    void setData(int column, int role, const QVariant& value) override;
+    // The same without a QVariant: checkState(0) and setCheckState(0, state).
+    Qt::CheckState state() const { return Qt::CheckState(m_checkState == noCheckState ? 0 : m_checkState); }
+    void setState(Qt::CheckState state);
+
     // Negative: the item makes no script line itself. 0 a plot without load cases; for a row
     // the rowMark of its record.
     int isLC = -1;
@@ -39,7 +47,10 @@ public:
     int level = 0;
 
 private:
+    static constexpr qint8 noCheckState = -1;
+
     std::shared_ptr<const GraphicalOutputRecord> m_record;
+    qint8 m_checkState = noCheckState;
 };
 
 // The context menu of the output tree.
