@@ -34,7 +34,7 @@ Item* newItem(const SharedRecord& record, int level, const QString& text)
 {
     auto* item = new Item(record, level);
     item->setText(0, text);
-    item->setCheckState(0, Qt::Unchecked);
+    item->setState(Qt::Unchecked);
     return item;
 }
 
@@ -238,8 +238,14 @@ private:
         const int begin = next;
         if (n == 0)
             ++next;
-        for (int i = 0; i < n; ++i)
-            next = numberLeaves(item->child(i), depth + 1, next);
+        for (int i = 0; i < n; ++i) {
+            QTreeWidgetItem* child = item->child(i);
+            // A row is a leaf that no line names: it needs no span of its own.
+            if (depth + 1 >= rowDepth && child->childCount() == 0)
+                ++next;
+            else
+                next = numberLeaves(child, depth + 1, next);
+        }
         if (n > 0 || depth < rowDepth)
             m_spans.insert(item, {begin, next});
         return next;
