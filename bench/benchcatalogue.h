@@ -43,7 +43,7 @@ inline void fillCatalogue(int plots)
         r.scriptEnglish = QStringLiteral("QUAD FORC M%1 ISOL $(FILLI)").arg(i);
         list.push_back(r);
     }
-    vkd::plib::widgetgraphicaloutput::catalogueLanguage = vkd_lib_getvalue(102);
+    vkd::plib::widgetgraphicaloutput::catalogueLanguage = vkd_lib_getvalue(kSettingLanguage);
 }
 
 inline std::vector<LoadcaseInformation> loadcases(int count)

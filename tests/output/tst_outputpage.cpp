@@ -42,7 +42,7 @@ QByteArray rec(const char* title3, const char* tag = "All", const char* cases = 
 void useCatalogue()
 {
     catalogueList() = parseText(rec("a", "All", "last-l", 1) + rec("b") + rec("iso", "Quad"));
-    catalogueLanguage = vkd_lib_getvalue(102);
+    catalogueLanguage = vkd_lib_getvalue(kSettingLanguage);
 }
 
 // Models of a page's project: none, one bric, the demo project.

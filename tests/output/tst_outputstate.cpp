@@ -33,7 +33,7 @@ struct Page
         for (const char* p : {"1|last-l|1", "2|none|0", "3|none|0"})
             lines += QByteArray("1|122|0|@T01 T|@C01 C|@P0") + p[0] + " P|All|0|" + (p + 2) + "|3| |0|B|P\n";
         catalogueList() = parseText(lines);
-        catalogueLanguage = vkd_lib_getvalue(102);
+        catalogueLanguage = vkd_lib_getvalue(kSettingLanguage);
         animator = preview ? new AnimatorView(doc.index()) : nullptr;
         page = new VKD_P_WidgetGraphicalOutput(
             parent ? parent : &holder, VKD_P_WidgetGraphicalOutput_Progname(progname), &parameter, animator);

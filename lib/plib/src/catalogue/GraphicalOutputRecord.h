@@ -31,7 +31,7 @@ enum RowMark
     RowMarkDesignExtreme = 3,
 };
 
-// One line of the catalogue graphicaloutput.data. Every tree item holds its own copy.
+// One line of the catalogue graphicaloutput.data. The tree items made of one record share a copy.
 struct GraphicalOutputRecord
 {
     // Values of VKD_P_WidgetGraphicalOutput_Progname for which the plot is offered.

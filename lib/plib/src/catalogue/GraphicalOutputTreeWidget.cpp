@@ -13,6 +13,8 @@
 #include <QKeySequence>
 #include <QStringList>
 
+#include <algorithm>
+#include <charconv>
 #include <functional>
 
 using namespace vkd::plib::widgetgraphicaloutput;
@@ -26,11 +28,13 @@ Item* treeItem(QTreeWidgetItem* item)
     return item && item->type() == Item::Type ? static_cast<Item*>(item) : nullptr;
 }
 
-Item* newItem(const GraphicalOutputRecord& record, int level, const QString& text)
+using SharedRecord = std::shared_ptr<const GraphicalOutputRecord>;
+
+Item* newItem(const SharedRecord& record, int level, const QString& text)
 {
     auto* item = new Item(record, level);
     item->setText(0, text);
-    item->setCheckState(0, Qt::Unchecked);
+    item->setState(Qt::Unchecked);
     return item;
 }
 
@@ -47,7 +51,7 @@ void setStateDown(QTreeWidgetItem* item, Qt::CheckState state)
 // A safeguard against records without a script: their items would make nothing.
 bool isHollow(const Item* item)
 {
-    const GraphicalOutputRecord& r = item->record;
+    const GraphicalOutputRecord& r = item->record();
     if (item->childCount() > 0 || !r.scriptGerman.isEmpty() || !r.scriptEnglish.isEmpty())
         return false;
     switch (item->level) {
@@ -94,10 +98,14 @@ void appendSelection(QString& out, QTreeWidgetItem* treeWidgetItem)
             // A plot with some rows checked names them by number, so that rows added later
             // come up unchecked.
             out += QLatin1String("Partially:") + id + QLatin1String(" : ");
+            char digits[16];
             for (int i = 0; i < n; ++i) {
                 const Item* row = treeItem(item->child(i));
-                if (row && row->checkState(0) == Qt::Checked)
-                    out += QString::number(row->number) + QLatin1Char(',');
+                if (!row || row->state() != Qt::Checked)
+                    continue;
+                const auto end = std::to_chars(digits, digits + sizeof digits, row->number).ptr;
+                *end = ',';
+                out += QLatin1String(digits, int(end + 1 - digits));
             }
             out += QLatin1Char('\n');
         }
@@ -120,9 +128,30 @@ void appendSelection(QString& out, QTreeWidgetItem* treeWidgetItem)
         out += QLatin1String("Unchecked:") + id + QLatin1String(":%2\n");
 }
 
+// A row number as QString::toInt() reads it; plain digits are read directly.
+int number(const QStringRef& text)
+{
+    constexpr int digitsThatFit = 9;
+    int value = 0;
+    if (text.isEmpty() || text.size() > digitsThatFit)
+        return text.toInt();
+    for (const QChar c : text) {
+        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+            return text.toInt();
+        value = value * 10 + (c.unicode() - '0');
+    }
+    return value;
+}
+
+// A text of nothing but line feeds is no choice at all and changes nothing.
+bool hasLines(const QString& text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c != QLatin1Char('\n'); });
+}
+
 // The items of levels 0 to 2 by identifier, each identifier standing for the item that
 // findItem() meets first.
-QHash<QString, Item*> itemsById(const QTreeWidget& tree)
+QHash<QString, Item*> itemsById(const QList<QTreeWidgetItem*>& tops)
 {
     QHash<QString, Item*> byId;
     auto note = [&byId](QTreeWidgetItem* treeWidgetItem) {
@@ -132,8 +161,8 @@ QHash<QString, Item*> itemsById(const QTreeWidget& tree)
                 byId.insert(id, item);
         }
     };
-    for (int i = tree.topLevelItemCount() - 1; i >= 0; --i) {
-        QTreeWidgetItem* top = tree.topLevelItem(i);
+    for (int i = tops.size() - 1; i >= 0; --i) {
+        QTreeWidgetItem* top = tops.at(i);
         note(top);
         for (int j = top->childCount() - 1; j >= 0; --j) {
             QTreeWidgetItem* caption = top->child(j);
@@ -145,26 +174,204 @@ QHash<QString, Item*> itemsById(const QTreeWidget& tree)
     return byId;
 }
 
-void checkRows(QTreeWidgetItem* plot, const QString& numbers)
+// A choice text applied to a tree. Its lines, in turn, carry a state down the subtree of the item
+// they name, starting from a tree with nothing checked; so the text decides the state of every
+// leaf, and the states above follow from the leaves. The leaves' states are worked out first and
+// only the items whose state differs are set: applying a choice the tree shows already changes
+// nothing, and one that differs in a few rows changes those rows.
+class Choice
 {
-    QHash<int, QTreeWidgetItem*> rowByNumber;
-    for (int i = 0; i < plot->childCount(); ++i)
-        if (const Item* row = treeItem(plot->child(i)))
-            rowByNumber.insert(row->number, plot->child(i)); // the last row of a number wins
-    const QStringList parts = numbers.split(QLatin1Char(','), Qt::SkipEmptyParts);
-    for (const QString& part : parts)
-        if (QTreeWidgetItem* row = rowByNumber.value(part.toInt()))
-            row->setCheckState(0, Qt::Checked);
-}
+public:
+    explicit Choice(const QList<QTreeWidgetItem*>& tops) : m_tops(tops)
+    {
+        int next = 0;
+        for (QTreeWidgetItem* top : tops)
+            next = numberLeaves(top, 0, next);
+        m_target.assign(size_t(next), quint8(Qt::Unchecked));
+    }
+
+    void read(const QString& text)
+    {
+        const QHash<QString, Item*> byId = itemsById(m_tops);
+        for (const QStringRef& line : text.splitRef(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+            const QVector<QStringRef> parts = line.split(QLatin1Char(':'), Qt::SkipEmptyParts);
+            if (parts.size() < 2)
+                continue;
+            Item* item = byId.value(parts.at(1).trimmed().toString());
+            if (!item)
+                continue;
+            const QStringRef& word = parts.at(0);
+            if (word == QLatin1String("Checked")) {
+                fill(m_spans.value(item), Qt::Checked);
+            } else if (word == QLatin1String("Unchecked")) {
+                fill(m_spans.value(item), Qt::Unchecked);
+            } else if (word == QLatin1String("Partially") && parts.size() >= 3) {
+                fill(m_spans.value(item), Qt::Unchecked);
+                checkRows(item, parts.at(2));
+            }
+        }
+    }
+
+    // With carry, the items are in a view whose automatic update keeps every state in line with
+    // the states below it: an item that shows the state its whole subtree is to have is left as
+    // it is, and one that does not gets that state and carries it down.
+    void apply(bool carry)
+    {
+        int next = 0;
+        for (QTreeWidgetItem* top : m_tops)
+            next = apply(top, next, carry);
+    }
+
+private:
+    // The leaves of an item's subtree are numbered [begin, end) depth first.
+    struct Span
+    {
+        int begin = 0;
+        int end = 0;
+    };
+
+    // Notes the spans of the items a line may name, and of every item with children.
+    int numberLeaves(QTreeWidgetItem* item, int depth, int next)
+    {
+        constexpr int rowDepth = 3;
+        const int n = item->childCount();
+        const int begin = next;
+        if (n == 0)
+            ++next;
+        for (int i = 0; i < n; ++i) {
+            QTreeWidgetItem* child = item->child(i);
+            // A row is a leaf that no line names: it needs no span of its own.
+            if (depth + 1 >= rowDepth && child->childCount() == 0)
+                ++next;
+            else
+                next = numberLeaves(child, depth + 1, next);
+        }
+        if (n > 0 || depth < rowDepth)
+            m_spans.insert(item, {begin, next});
+        return next;
+    }
+
+    Span spanOf(QTreeWidgetItem* item, int begin) const
+    {
+        return item->childCount() > 0 ? m_spans.value(item) : Span{begin, begin + 1};
+    }
+
+    void fill(Span span, Qt::CheckState state)
+    {
+        std::fill(m_target.begin() + span.begin, m_target.begin() + span.end, quint8(state));
+    }
+
+    // Checks the children of item with the numbers listed; of children with the same number
+    // the last one counts.
+    void checkRows(QTreeWidgetItem* item, const QStringRef& numbers)
+    {
+        std::vector<int> wanted;
+        int start = 0;
+        for (int i = 0; i <= numbers.size(); ++i) {
+            if (i < numbers.size() && numbers.at(i) != QLatin1Char(','))
+                continue;
+            if (i > start)
+                wanted.push_back(number(numbers.mid(start, i - start)));
+            start = i + 1;
+        }
+        std::sort(wanted.begin(), wanted.end());
+        wanted.erase(std::unique(wanted.begin(), wanted.end()), wanted.end());
+        std::vector<bool> taken(wanted.size());
+        const int n = item->childCount();
+        std::vector<Span> spans(static_cast<size_t>(n));
+        int next = m_spans.value(item).begin;
+        for (int i = 0; i < n; ++i) {
+            spans[size_t(i)] = spanOf(item->child(i), next);
+            next = spans[size_t(i)].end;
+        }
+        for (int i = n - 1; i >= 0; --i) {
+            const Item* row = treeItem(item->child(i));
+            if (!row)
+                continue;
+            const auto found = std::lower_bound(wanted.begin(), wanted.end(), row->number);
+            if (found == wanted.end() || *found != row->number || taken[size_t(found - wanted.begin())])
+                continue;
+            taken[size_t(found - wanted.begin())] = true;
+            fill(spans[size_t(i)], Qt::Checked);
+        }
+    }
+
+    // The state all leaves of a span are to have, or PartiallyChecked if they differ.
+    Qt::CheckState common(Span span) const
+    {
+        const auto first = m_target.begin() + span.begin;
+        const auto last = m_target.begin() + span.end;
+        if (first == last || std::find_if(first, last, [first](quint8 s) { return s != *first; }) != last)
+            return Qt::PartiallyChecked;
+        return Qt::CheckState(*first);
+    }
+
+    int apply(QTreeWidgetItem* item, int begin, bool carry)
+    {
+        const Span span = spanOf(item, begin);
+        if (item->childCount() == 0) {
+            const auto state = Qt::CheckState(m_target[size_t(begin)]);
+            if (Item* row = treeItem(item))
+                row->setState(state);
+            else if (item->checkState(0) != state)
+                item->setCheckState(0, state);
+            return span.end;
+        }
+        const Qt::CheckState state = carry ? common(span) : Qt::PartiallyChecked;
+        if (state != Qt::PartiallyChecked) {
+            if (item->checkState(0) != state)
+                item->setCheckState(0, state);
+            return span.end;
+        }
+        int next = span.begin;
+        for (int i = 0; i < item->childCount(); ++i)
+            next = apply(item->child(i), next, carry);
+        return span.end;
+    }
+
+    const QList<QTreeWidgetItem*>& m_tops;
+    QHash<const QTreeWidgetItem*, Span> m_spans;
+    std::vector<quint8> m_target;
+};
 
 } // namespace
 
-GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem(const GraphicalOutputRecord& record, int level)
-    : QTreeWidgetItem(Type), record(record), level(level)
+GraphicalOutputTreeWidgetItem::GraphicalOutputTreeWidgetItem(
+    std::shared_ptr<const GraphicalOutputRecord> record, int level)
+    : QTreeWidgetItem(Type), level(level), m_record(std::move(record))
 {
 }
 
 GraphicalOutputTreeWidgetItem::~GraphicalOutputTreeWidgetItem() = default;
+
+QVariant GraphicalOutputTreeWidgetItem::data(int column, int role) const
+{
+    if (column == 0 && role == Qt::CheckStateRole)
+        return m_checkState == noCheckState ? QVariant() : QVariant(int(m_checkState));
+    return QTreeWidgetItem::data(column, role);
+}
+
+void GraphicalOutputTreeWidgetItem::setData(int column, int role, const QVariant& value)
+{
+    if (column != 0 || role != Qt::CheckStateRole) {
+        QTreeWidgetItem::setData(column, role, value);
+        return;
+    }
+    const qint8 state = value.isValid() ? qint8(value.toInt()) : noCheckState;
+    if (state == m_checkState)
+        return;
+    m_checkState = state;
+    // Tells the view and the automatic update, as the base class does; nothing while detached.
+    emitDataChanged();
+}
+
+void GraphicalOutputTreeWidgetItem::setState(Qt::CheckState state)
+{
+    if (qint8(state) == m_checkState)
+        return;
+    m_checkState = qint8(state);
+    emitDataChanged();
+}
 
 PopupHandler::~PopupHandler()
 {
@@ -226,17 +433,23 @@ void GraphicalOutputTreeWidget::rebuild(bool defaults)
     const bool carryChoice = selectionLoaded && !defaults;
     const QString choice = carryChoice ? selectionText() : QString();
     clear();
-    fillTree();
-    if (topLevelItemCount() > 0) {
-        if (carryChoice)
-            applySelection(choice);
+    const QList<QTreeWidgetItem*> tops = makeItems();
+    if (!tops.isEmpty()) {
+        // The choice goes to the items before they enter the view, where setting a state costs
+        // no signals.
+        if (carryChoice && hasLines(choice)) {
+            Choice carried(tops);
+            carried.read(choice);
+            carried.apply(false);
+        }
+        insertItems(tops);
     } else {
         addTopLevelItem(new QTreeWidgetItem(QStringList(tr("No Entries in database!"))));
     }
     rebuilding = false;
 }
 
-void GraphicalOutputTreeWidget::fillTree()
+QList<QTreeWidgetItem*> GraphicalOutputTreeWidget::makeItems()
 {
     // Captions and plots by text, the last one of a text first, as the search from the end
     // finds them.
@@ -244,29 +457,30 @@ void GraphicalOutputTreeWidget::fillTree()
     QHash<const Item*, QHash<QString, Item*>> childrenByText;
     QList<QTreeWidgetItem*> topList;
     const ProjectModel model(parameter);
-    for (const GraphicalOutputRecord& record : catalogueList()) {
-        if (!isRecordOffered(record, progname, model, additional))
+    for (const GraphicalOutputRecord& offered : catalogueList()) {
+        if (!isRecordOffered(offered, progname, model, additional))
             continue;
-        Item* top = tops.value(record.title1);
+        const SharedRecord record = std::make_shared<const GraphicalOutputRecord>(offered);
+        Item* top = tops.value(offered.title1);
         if (!top) {
-            top = newItem(record, 0, record.title1);
-            tops.insert(record.title1, top);
+            top = newItem(record, 0, offered.title1);
+            tops.insert(offered.title1, top);
             topList << top;
         }
-        Item* caption = childrenByText[top].value(record.title2);
+        Item* caption = childrenByText[top].value(offered.title2);
         if (!caption) {
-            caption = newItem(record, 1, record.title2);
+            caption = newItem(record, 1, offered.title2);
             top->addChild(caption);
-            childrenByText[top].insert(record.title2, caption);
+            childrenByText[top].insert(offered.title2, caption);
         }
         // A plot is looked up by the caption above it, not by its own: so every record makes a
         // plot of its own unless its plot carries the caption of its parent.
-        Item* plot = childrenByText[caption].value(record.title2);
+        Item* plot = childrenByText[caption].value(offered.title2);
         if (!plot) {
-            plot = newItem(record, 2, record.title3);
+            plot = newItem(record, 2, offered.title3);
             plot->setIcon(0, plotIcon());
             caption->addChild(plot);
-            childrenByText[caption].insert(record.title3, plot);
+            childrenByText[caption].insert(offered.title3, plot);
         }
         addLoadcaseRows(plot, record);
     }
@@ -274,8 +488,13 @@ void GraphicalOutputTreeWidget::fillTree()
     for (QTreeWidgetItem* top : qAsConst(topList))
         if (!pruneHollow(static_cast<Item*>(top)))
             kept << top;
-    addTopLevelItems(kept);
-    for (QTreeWidgetItem* top : qAsConst(kept)) {
+    return kept;
+}
+
+void GraphicalOutputTreeWidget::insertItems(const QList<QTreeWidgetItem*>& tops)
+{
+    addTopLevelItems(tops);
+    for (QTreeWidgetItem* top : tops) {
         top->setExpanded(true);
         for (int i = 0; i < top->childCount(); ++i)
             top->child(i)->setExpanded(true);
@@ -283,8 +502,9 @@ void GraphicalOutputTreeWidget::fillTree()
 }
 
 void GraphicalOutputTreeWidget::addLoadcaseRows(GraphicalOutputTreeWidgetItem* plot,
-                                                const GraphicalOutputRecord& record)
+                                                const std::shared_ptr<const GraphicalOutputRecord>& shared)
 {
+    const GraphicalOutputRecord& record = *shared;
     if (record.ctrl == CaseControlNoCases) {
         plot->isLC = RowMarkPlotAlone;
         plot->setIcon(0, plotIcon());
@@ -297,10 +517,11 @@ void GraphicalOutputTreeWidget::addLoadcaseRows(GraphicalOutputTreeWidgetItem* p
     if (kind != 0) {
         const QIcon icon = rowIcon(vkd_lib_getvalue(kSettingLanguage));
         QList<QTreeWidgetItem*> children;
+        children.reserve(int(rows.size()));
         for (const LoadcaseInformation& info : rows) {
             if (info.kind != kind)
                 continue;
-            Item* row = newItem(record, 3, info.name);
+            Item* row = newItem(shared, 3, info.name);
             row->setIcon(0, icon);
             row->isLC = record.rowMark;
             row->number = info.number;
@@ -344,7 +565,7 @@ int GraphicalOutputTreeWidget::collectScriptLines(std::vector<QString>& lines, b
     // Depth first: the lines of an item's children come before its own.
     std::function<void(QTreeWidgetItem*)> walk = [&](QTreeWidgetItem* parent) {
         const Item* above = treeItem(parent->parent());
-        const GraphicalOutputRecord* captionRecord = above ? &above->record : nullptr;
+        const GraphicalOutputRecord* captionRecord = above ? &above->record() : nullptr;
         for (int i = 0; i < parent->childCount(); ++i) {
             QTreeWidgetItem* child = parent->child(i);
             walk(child);
@@ -352,7 +573,8 @@ int GraphicalOutputTreeWidget::collectScriptLines(std::vector<QString>& lines, b
             if (!item || item->isLC < 0 || item->checkState(0) == Qt::Unchecked)
                 continue;
             const QString label = item->text(0);
-            appendScriptLines(context, ScriptEntry{item->record, item->number, label, captionRecord}, lines);
+            appendScriptLines(context, ScriptEntry{item->record(), item->number, label, captionRecord},
+                              lines);
         }
     };
     for (int i = 0; i < topLevelItemCount(); ++i)
@@ -371,38 +593,27 @@ QString GraphicalOutputTreeWidget::selectionText() const
 void GraphicalOutputTreeWidget::applySelection(QString text)
 {
     selectionLoaded = true;
-    const QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    if (lines.isEmpty())
+    if (!hasLines(text))
         return;
     rebuilding = true;
-    // The automatic update carries the state of a top level item down its subtree; an item that
-    // is unchecked already has no checked descendant.
-    for (int i = 0; i < topLevelItemCount(); ++i)
-        topLevelItem(i)->setCheckState(0, Qt::Unchecked);
-    const QHash<QString, Item*> byId = itemsById(*this);
-    for (const QString& line : lines) {
-        const QStringList parts = line.split(QLatin1Char(':'), Qt::SkipEmptyParts);
-        if (parts.size() < 2)
-            continue;
-        Item* item = byId.value(parts.at(1).trimmed());
-        if (!item)
-            continue;
-        const QString& word = parts.at(0);
-        if (word == QLatin1String("Checked")) {
-            item->setCheckState(0, Qt::Checked);
-        } else if (word == QLatin1String("Unchecked")) {
-            item->setCheckState(0, Qt::Unchecked);
-        } else if (word == QLatin1String("Partially") && parts.size() >= 3) {
-            item->setCheckState(0, Qt::Unchecked);
-            checkRows(item, parts.at(2));
-        }
+    QList<QTreeWidgetItem*> tops;
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        QTreeWidgetItem* top = topLevelItem(i);
+        // Every top level item comes out with a check box, also the one that says the tree is
+        // empty.
+        if (!top->data(0, Qt::CheckStateRole).isValid())
+            top->setCheckState(0, Qt::Unchecked);
+        tops << top;
     }
+    Choice choice(tops);
+    choice.read(text);
+    choice.apply(automaticCheckStateUpdate());
     rebuilding = false;
 }
 
 QString GraphicalOutputTreeWidget::itemId(const GraphicalOutputTreeWidgetItem& item)
 {
-    return vkd::plib::widgetgraphicaloutput::itemId(item.record, item.level);
+    return vkd::plib::widgetgraphicaloutput::itemId(item.record(), item.level);
 }
 
 GraphicalOutputTreeWidgetItem* GraphicalOutputTreeWidget::findItem(const QString& id) const
@@ -473,7 +684,7 @@ void GraphicalOutputTreeWidget::appendDump(QString& out, QTreeWidgetItem* treeWi
     const Item* item = treeItem(treeWidgetItem);
     if (!item)
         return;
-    const GraphicalOutputRecord& r = item->record;
+    const GraphicalOutputRecord& r = item->record();
     out += QStringLiteral("%1 item %2 (%6) ids %3 %4 %5   isLC %7 ctrl %8\n")
                .arg(QString(indent, QLatin1Char(' ')), item->text(0), r.id1, r.id2, r.id3, itemId(*item),
                     QString::number(item->isLC), QString::number(r.ctrl));

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <list>
+#include <memory>
 #include <vector>
 
 class GraphicalOutputTreeWidget;
@@ -23,17 +24,33 @@ public:
     // Tells the items of the tree from the plain item that says the tree is empty.
     static constexpr int Type = QTreeWidgetItem::UserType + 1;
 
-    GraphicalOutputTreeWidgetItem(const GraphicalOutputRecord& record, int level);
+    // The items made of one record share it: a plot has hundreds of rows.
+    GraphicalOutputTreeWidgetItem(std::shared_ptr<const GraphicalOutputRecord> record, int level);
     ~GraphicalOutputTreeWidgetItem() override;
 
     // A caption holds the first record that came through it, a row the record of its plot.
-    GraphicalOutputRecord record;
+    const GraphicalOutputRecord& record() const { return *m_record; }
+
+    // The check state of column 0 is a member, not an entry in the item's list of values: setting
+    // it costs no copy of that list, and a tree of 150 000 rows sets and reads it often.
+    QVariant data(int column, int role) const override;
+    void setData(int column, int role, const QVariant& value) override;
+    // The same without a QVariant: checkState(0) and setCheckState(0, state).
+    Qt::CheckState state() const { return Qt::CheckState(m_checkState == noCheckState ? 0 : m_checkState); }
+    void setState(Qt::CheckState state);
+
     // Negative: the item makes no script line itself. 0 a plot without load cases; for a row
     // the rowMark of its record.
     int isLC = RowMarkNoLine;
     // The load case of a row; 0 on the other levels.
     int number = 0;
     int level = 0;
+
+private:
+    static constexpr qint8 noCheckState = -1;
+
+    std::shared_ptr<const GraphicalOutputRecord> m_record;
+    qint8 m_checkState = noCheckState;
 };
 
 // The context menu of the output tree.
@@ -103,8 +120,11 @@ public slots:
     void dump(QTreeWidgetItem* item, int indent);
 
 private:
-    void fillTree();
-    void addLoadcaseRows(GraphicalOutputTreeWidgetItem* plot, const GraphicalOutputRecord& record);
+    // The items of the catalogue's plots, made outside the view.
+    QList<QTreeWidgetItem*> makeItems();
+    void insertItems(const QList<QTreeWidgetItem*>& tops);
+    void addLoadcaseRows(GraphicalOutputTreeWidgetItem* plot,
+                         const std::shared_ptr<const GraphicalOutputRecord>& record);
     void appendDump(QString& out, QTreeWidgetItem* item, int indent) const;
 
     int progname;

@@ -36,17 +36,42 @@ constexpr Qualifier secondPlace[] = {{'+', "^143", "1 + 2"}, {'1', "^143", "1"},
                                      {'h', "&7ZH", ""},      {'s', "&7ZT", ""},  {'t', "&7ZT", ""}};
 
 // Any other character, a blank or a dash for instance, adds nothing.
-template <size_t N> void expandQualifier(const Qualifier (&table)[N], QChar c, QString& out, bool before)
+template <size_t N>
+void expandQualifier(const Qualifier (&table)[N], QChar c, QString& out, bool before, TokenTexts* texts)
 {
     for (const Qualifier& q : table) {
         if (c == QLatin1Char(q.character)) {
-            expand(QString::fromLatin1(q.token), QString::fromLatin1(q.suffix), out, before);
+            expand(QString::fromLatin1(q.token), QString::fromLatin1(q.suffix), out, before, texts);
             return;
         }
     }
 }
 
+// The text of a token whose first character is a token sign, from the text service.
+QString lookUp(const QString& token)
+{
+    const QChar sign = token.at(0);
+    const QByteArray key = token.mid(1).toLatin1();
+    const int language = vkd_lib_getvalue(kSettingLanguage);
+    if (sign == QLatin1Char('&')) {
+        QString text = QString::fromStdString(vkd_lib_convtext(0, language, key.constData()));
+        // Texts of class 0 may carry a short form in front of a ">".
+        const int mark = text.indexOf(QLatin1Char('>'));
+        return mark > 0 ? text.mid(mark + 1) : text;
+    }
+    return QString::fromStdString(
+        vkd_lib_convtext(sign == QLatin1Char('^') ? 1 : 4, language, key.constData()));
+}
+
 } // namespace
+
+const QString& TokenTexts::text(const QString& token)
+{
+    auto found = m_texts.find(token);
+    if (found == m_texts.end())
+        found = m_texts.insert(token, lookUp(token));
+    return *found;
+}
 
 bool isKeyText(QStringView text)
 {
@@ -55,27 +80,16 @@ bool isKeyText(QStringView text)
     return text.size() >= 7 && isTokenSign(text.at(3));
 }
 
-bool expand(const QString& token, const QString& suffix, QString& out, bool before)
+bool expand(const QString& token, const QString& suffix, QString& out, bool before, TokenTexts* texts)
 {
     bool metToken = true;
     QString text;
     if (!token.isEmpty()) {
-        const QChar sign = token.at(0);
-        const QByteArray key = token.mid(1).toLatin1();
-        const int language = vkd_lib_getvalue(kSettingLanguage);
-        if (sign == QLatin1Char('&')) {
-            text = QString::fromStdString(vkd_lib_convtext(0, language, key.constData()));
-            // Texts of class 0 may carry a short form in front of a ">".
-            const int mark = text.indexOf(QLatin1Char('>'));
-            if (mark > 0)
-                text = text.mid(mark + 1);
-        } else if (sign == QLatin1Char('^')) {
-            text = QString::fromStdString(vkd_lib_convtext(1, language, key.constData()));
-        } else if (sign == QLatin1Char('$')) {
-            text = QString::fromStdString(vkd_lib_convtext(4, language, key.constData()));
-        } else {
+        if (!isTokenSign(token.at(0))) {
             text = token;
             metToken = false;
+        } else {
+            text = texts ? texts->text(token) : lookUp(token);
         }
     }
     if (!text.isEmpty()) {
@@ -89,19 +103,19 @@ bool expand(const QString& token, const QString& suffix, QString& out, bool befo
     return metToken;
 }
 
-QString captionText(const QString& field)
+QString captionText(const QString& field, TokenTexts* texts)
 {
     const bool qualified = isKeyText(QStringView(field).mid(3, 4));
     QString out;
-    if (!expand(qualified ? field.mid(3, 4) : field.left(4), QString(), out, false))
+    if (!expand(qualified ? field.mid(3, 4) : field.left(4), QString(), out, false, texts))
         return QString();
     if (!qualified)
         return out;
     // The text of the third character stands in front of the base text, so the base text's own
     // leading blank puts two blanks between them.
-    expandQualifier(thirdPlace, field.at(2), out, true);
-    expandQualifier(firstPlace, field.at(0), out, false);
-    expandQualifier(secondPlace, field.at(1), out, false);
+    expandQualifier(thirdPlace, field.at(2), out, true, texts);
+    expandQualifier(firstPlace, field.at(0), out, false, texts);
+    expandQualifier(secondPlace, field.at(1), out, false, texts);
     return out;
 }
 

@@ -5,7 +5,10 @@
 #include <vkd_q.h>
 
 #include <QIODevice>
-#include <QVector>
+#include <QStringView>
+
+#include <cstring>
+#include <unordered_map>
 
 namespace vkd::plib::widgetgraphicaloutput {
 
@@ -23,12 +26,87 @@ namespace {
 constexpr int lineBufferSize = 1024;
 constexpr int minimumParts = 14;
 constexpr int lastColumn = 14;
+constexpr int captionColumns = 3;
+constexpr int firstCaptionColumn = 3;
 
-void storeCaption(const QStringRef& part, int column, QString& caption, QString& id)
+// The parts of a line between its bars up to the last column read; empty parts are dropped, so
+// adjacent bars are one separator, and the line feed behind a final bar is a part of its own.
+struct Parts
+{
+    QStringView at[lastColumn + 1];
+    int count = 0;
+};
+
+void split(QStringView line, Parts& parts)
+{
+    parts.count = 0;
+    const QChar* start = line.begin();
+    const QChar* const end = line.end();
+    while (parts.count <= lastColumn) {
+        const QChar* bar = start;
+        while (bar != end && *bar != QLatin1Char('|'))
+            ++bar;
+        if (bar != start)
+            parts.at[parts.count++] = QStringView(start, bar - start);
+        if (bar == end)
+            return;
+        start = bar + 1;
+    }
+}
+
+// Equal texts, compared as the raw characters they are.
+bool same(QStringView a, QStringView b)
+{
+    return a.size() == b.size() && std::memcmp(a.data(), b.data(), size_t(a.size()) * sizeof(QChar)) == 0;
+}
+
+bool isAscii(const char* bytes, int length)
+{
+    constexpr quint64 highBits = 0x8080808080808080ULL;
+    int i = 0;
+    for (; i + 8 <= length; i += 8) {
+        quint64 eight;
+        std::memcpy(&eight, bytes + i, sizeof eight);
+        if (eight & highBits)
+            return false;
+    }
+    for (; i < length; ++i)
+        if (uchar(bytes[i]) >= 0x80)
+            return false;
+    return true;
+}
+
+// Decodes a line into a buffer that is reused from line to line; most lines are plain ASCII.
+void decode(const char* bytes, int length, QString& line)
+{
+    if (!isAscii(bytes, length)) {
+        line = QString::fromUtf8(bytes, length);
+        return;
+    }
+    line.resize(0);
+    line.append(QLatin1String(bytes, length));
+}
+
+// The number of a trimmed field as QString::toInt() reads it; plain digits are read directly.
+int number(QStringView field)
+{
+    constexpr int digitsThatFit = 9;
+    if (field.isEmpty() || field.size() > digitsThatFit)
+        return field.toInt();
+    int value = 0;
+    for (const QChar c : field) {
+        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+            return field.toInt();
+        value = value * 10 + (c.unicode() - '0');
+    }
+    return value;
+}
+
+void storeCaption(QStringView part, int column, QString& caption, QString& id, TokenTexts& texts)
 {
     // Every plain caption of a column shares one identifier.
-    static const QString plainIds[3] = {QStringLiteral("    001"), QStringLiteral("    002"),
-                                        QStringLiteral("    003")};
+    static const QString plainIds[captionColumns] = {QStringLiteral("    001"), QStringLiteral("    002"),
+                                                     QStringLiteral("    003")};
     id = plainIds[column];
     if (!isKeyText(part)) {
         caption = part.toString();
@@ -42,9 +120,48 @@ void storeCaption(const QStringRef& part, int column, QString& caption, QString&
     } else {
         id = QStringLiteral("   ") + field.left(4);
     }
-    const QString text = captionText(field);
+    const QString text = captionText(field, &texts);
     caption = text.isEmpty() ? field.mid(prefixLength).trimmed() : text.trimmed();
 }
+
+// The captions of one column, each distinct field resolved once a parse: a caption recurs all
+// over a catalogue, and resolving one means text lookups and several strings.
+class Captions
+{
+public:
+    Captions(int column, TokenTexts& texts) : m_column(column), m_texts(texts) {}
+
+    void store(QStringView field, QString& caption, QString& id)
+    {
+        auto found = m_byField.find(field);
+        if (found == m_byField.end()) {
+            Resolved resolved;
+            resolved.field = field.toString();
+            storeCaption(field, m_column, resolved.caption, resolved.id, m_texts);
+            // The key views the text of the stored field, which a move leaves where it is.
+            const QStringView key(resolved.field);
+            found = m_byField.emplace(key, std::move(resolved)).first;
+        }
+        caption = found->second.caption;
+        id = found->second.id;
+    }
+
+private:
+    struct Resolved
+    {
+        QString field;
+        QString caption;
+        QString id;
+    };
+    struct Hash
+    {
+        size_t operator()(QStringView text) const noexcept { return qHash(text); }
+    };
+
+    int m_column;
+    TokenTexts& m_texts;
+    std::unordered_map<QStringView, Resolved, Hash> m_byField;
+};
 
 int ctrlOfWord(const QStringRef& word)
 {
@@ -83,15 +200,6 @@ void bindToCases(GraphicalOutputRecord& r)
                     : RowMarkCase;
 }
 
-// Gives target the text of field unless it holds it already; true if it changed.
-bool assignChanged(QString& target, const QStringRef& field)
-{
-    if (field == target && !target.isNull())
-        return false;
-    target = field.toString();
-    return true;
-}
-
 } // namespace
 
 void parseCatalogue(QIODevice& device)
@@ -105,45 +213,64 @@ void parseCatalogue(QIODevice& device, std::vector<GraphicalOutputRecord>& recor
     // Not reset between lines: a line of exactly 14 parts keeps the English script of the line
     // before it.
     GraphicalOutputRecord work;
-    // Neighbouring lines mostly share their captions and words: a field equal to the one of the
-    // line before keeps what was made of it, which spares the allocations and the text lookups
-    // that dominate parsing.
-    QString captionFields[3];
+    TokenTexts texts;
+    Captions captions[captionColumns] = {Captions(0, texts), Captions(1, texts), Captions(2, texts)};
+    // Neighbouring lines mostly share their fields: a part equal to the one of the last line
+    // read keeps what was made of it. The two lines take turns in two buffers.
+    QString lines[2];
+    Parts parts[2];
+    int current = 0;
+    bool havePrevious = false;
     char buffer[lineBufferSize];
     qint64 length;
     while ((length = device.readLine(buffer, lineBufferSize)) > 0) {
         // A comment needs its slashes in the first column. Blank lines fall below the part count.
         if (length >= 2 && buffer[0] == '/' && buffer[1] == '/')
             continue;
-        const QString line = QString::fromUtf8(buffer, int(length));
-        // Empty parts are dropped, so adjacent bars are one separator; the line feed behind a
-        // final bar is a part of its own.
-        const QVector<QStringRef> parts = line.splitRef(QLatin1Char('|'), Qt::SkipEmptyParts);
-        if (parts.size() < minimumParts)
+        decode(buffer, int(length), lines[current]);
+        const Parts& now = parts[current];
+        split(lines[current], parts[current]);
+        if (now.count < minimumParts)
             continue;
-        work.prog1 = parts.at(0).trimmed().toInt();
-        work.prog2 = parts.at(1).trimmed().toInt();
-        work.prog3 = parts.at(2).trimmed().toInt();
-        QString* titles[3] = {&work.title1, &work.title2, &work.title3};
-        QString* ids[3] = {&work.id1, &work.id2, &work.id3};
-        for (int column = 0; column < 3; ++column) {
-            const QStringRef field = parts.at(3 + column).trimmed();
-            if (captionFields[column].isNull() || field != captionFields[column]) {
-                captionFields[column] = field.toString();
-                storeCaption(field, column, *titles[column], *ids[column]);
-            }
-        }
-        assignChanged(work.contentTag, parts.at(6).trimmed());
-        work.number7 = parts.at(7).trimmed().toInt();
-        if (assignChanged(work.caseWord, parts.at(8).trimmed()))
+        const Parts& before = parts[1 - current];
+        auto changed = [&](int column) {
+            return !havePrevious || column >= before.count || !same(now.at[column], before.at[column]);
+        };
+        auto field = [&](int column) { return now.at[column].trimmed(); };
+        auto assign = [&](int column, QString& target) {
+            if (changed(column))
+                target = field(column).toString();
+        };
+        if (changed(0))
+            work.prog1 = number(field(0));
+        if (changed(1))
+            work.prog2 = number(field(1));
+        if (changed(2))
+            work.prog3 = number(field(2));
+        QString* titles[captionColumns] = {&work.title1, &work.title2, &work.title3};
+        QString* ids[captionColumns] = {&work.id1, &work.id2, &work.id3};
+        for (int c = 0; c < captionColumns; ++c)
+            if (changed(firstCaptionColumn + c))
+                captions[c].store(field(firstCaptionColumn + c), *titles[c], *ids[c]);
+        assign(6, work.contentTag);
+        if (changed(7))
+            work.number7 = number(field(7));
+        if (changed(8)) {
+            work.caseWord = field(8).toString();
             bindToCases(work);
-        work.preselect = parts.at(9).trimmed().toInt();
-        work.viewKind = parts.at(10).trimmed().toInt();
-        assignChanged(work.text11, parts.at(11).trimmed());
-        work.systemMask = parts.at(12).trimmed().toInt();
-        work.scriptGerman = parts.at(13).trimmed().toString();
-        if (parts.size() > lastColumn)
-            work.scriptEnglish = parts.at(lastColumn).trimmed().toString();
+        }
+        if (changed(9))
+            work.preselect = number(field(9));
+        if (changed(10))
+            work.viewKind = number(field(10));
+        assign(11, work.text11);
+        if (changed(12))
+            work.systemMask = number(field(12));
+        assign(13, work.scriptGerman);
+        if (now.count > lastColumn)
+            assign(lastColumn, work.scriptEnglish);
+        havePrevious = true;
+        current = 1 - current;
         if (work.scriptGerman.isEmpty() || work.scriptEnglish.isEmpty())
             continue;
         records.push_back(work);
