@@ -29,6 +29,7 @@
 
 #include <algorithm>
 #include <list>
+#include <vector>
 
 using namespace vkd::plib::design;
 
@@ -209,15 +210,18 @@ void DesignParameter::drawRow(const DesignParameterRow& row, int number, bool is
     VKD_QT_SignalBlocker blocker(table);
     if (isNew)
         table->createEmptyItems(number);
-    for (int column = ColumnSelection; column <= ColumnCrackControl; ++column) {
-        QTableWidgetItem* item = table->itemOnColId(number, column);
-        if (!item)
-            continue;
-        item->setText(rowText(row, column));
-        item->setTextAlignment(Qt::AlignCenter);
-        if (column != ColumnType)
-            item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-    }
+    RowTextMaker texts;
+    for (int column = ColumnSelection; column <= ColumnCrackControl; ++column)
+        if (QTableWidgetItem* item = table->itemOnColId(number, column))
+            showText(*item, column, texts.text(row, column));
+}
+
+void DesignParameter::showText(QTableWidgetItem& item, int column, const QString& text)
+{
+    item.setText(text);
+    item.setTextAlignment(Qt::AlignCenter);
+    if (column != ColumnType)
+        item.setFlags(item.flags() & ~Qt::ItemIsEditable);
 }
 
 void DesignParameter::refreshRows(int number)
@@ -232,12 +236,49 @@ void DesignParameter::refreshRows(int number)
         }
         return;
     }
-    for (size_t i = 0; i < data->rows.size(); ++i) {
-        table->addNewRow(false);
-        drawRow(data->rows[i], int(i), true);
-    }
+    appendRows();
     widenColumns();
     emit signal_rowCountChanged(table->rowCount());
+}
+
+void DesignParameter::appendRows()
+{
+    // The rows are appended at the end and drawn from the top, so that a table that had rows
+    // already keeps rows without text behind the drawn ones. All rows come in at once, and
+    // every cell is filled before it enters the table: the model reports each row once, not
+    // each change of each cell.
+    DesignParameterTable* table = data->table;
+    const int first = table->rowCount();
+    const int count = int(data->rows.size());
+    const int columns = table->columnCount();
+    {
+        VKD_QT_SignalBlocker blocker(table);
+        table->setRowCount(first + count);
+        RowTextMaker texts;
+        std::vector<int> ids(size_t(columns), -1);
+        for (int c = 0; c < columns; ++c)
+            ids[size_t(c)] = table->getColumnId(c);
+        for (int r = 0; r < count; ++r) {
+            const DesignParameterRow& row = data->rows[size_t(r)];
+            for (int c = 0; c < columns; ++c) {
+                QTableWidgetItem* item = emptyCell(c);
+                const int id = ids[size_t(c)];
+                if (id >= ColumnSelection && id <= ColumnCrackControl)
+                    showText(*item, id, texts.text(row, id));
+                table->setItem(r, c, item);
+            }
+        }
+        for (int r = std::max(first, count); r < first + count; ++r)
+            table->createEmptyItems(r);
+    }
+    for (int r = first; r < first + count; ++r)
+        emit table->rowsAdded(r);
+}
+
+QTableWidgetItem* DesignParameter::emptyCell(int column) const
+{
+    const auto* header = dynamic_cast<const VKD_H_TwHeaderItem*>(data->table->horizontalHeaderItem(column));
+    return header ? header->createEmptyItem() : new QTableWidgetItem;
 }
 
 void DesignParameter::widenColumns()

@@ -4,6 +4,8 @@
 
 #include "DesignParameterData.h"
 
+#include <QHash>
+#include <QPair>
 #include <QString>
 
 namespace vkd::plib::design {
@@ -28,5 +30,27 @@ QString rowText(const DesignParameterRow& row, int column);
 // One value of a row: " - " when not set, the bar text for bar diameters (code 1023), else the
 // number in the user's unit followed directly by unit.
 QString valueText(const DesignParameterRow& row, float value, int code, const QString& unit);
+
+struct SummaryField;
+
+// Makes the texts of many rows, as rowText does: rows share most of their values, so each unit
+// label, type name and value is made once. The units must not change while it is in use.
+class RowTextMaker
+{
+public:
+    QString text(const DesignParameterRow& row, int column);
+
+private:
+    void appendLine(QString& out, const DesignParameterRow& row, const SummaryField* fields, int count);
+    const QString& value(const DesignParameterRow& row, float value, int code);
+    const QString& unit(int code);
+    const QString& typeName(int type);
+
+    QHash<int, QString> m_units;
+    QHash<int, QString> m_typeNames;
+    // By unit code and the bits of the value; bar texts by the bar table and the bits.
+    QHash<QPair<int, quint32>, QString> m_values;
+    QHash<QPair<const void*, quint32>, QString> m_bars;
+};
 
 } // namespace vkd::plib::design
