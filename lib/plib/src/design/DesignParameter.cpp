@@ -112,6 +112,10 @@ void DesignParameter::buildTable()
         new VKD_H_TwHeaderItem(ColumnReinforcement, reinforcement, reinforcement, true, Qt::AlignCenter));
     table->setHorizontalHeaderItem(
         ColumnCrackControl, new VKD_H_TwHeaderItem(ColumnCrackControl, crack, crack, true, Qt::AlignCenter));
+    // The summaries are plain texts; the type keeps the table's own editor.
+    auto* texts = new TextSizeDelegate(table);
+    for (int id : {ColumnSelection, ColumnDirection, ColumnReinforcement, ColumnCrackControl})
+        table->setItemDelegateForColumn(table->getColumnNumber(id), texts);
     table->resizeColumnsToContents();
     const int widths[] = {150, 150, 200, 120, 120};
     for (int id = ColumnSelection; id <= ColumnCrackControl; ++id)
@@ -244,41 +248,48 @@ void DesignParameter::refreshRows(int number)
 void DesignParameter::appendRows()
 {
     // The rows are appended at the end and drawn from the top, so that a table that had rows
-    // already keeps rows without text behind the drawn ones. All rows come in at once, and
-    // every cell is filled before it enters the table: the model reports each row once, not
-    // each change of each cell.
+    // already keeps rows without text behind the drawn ones. All rows come in at once, every
+    // cell is filled before it enters the table, and the model reports all drawn cells in one,
+    // not each cell on its own (unless the table sorts, which moves rows as cells come).
     DesignParameterTable* table = data->table;
+    QAbstractItemModel* model = table->model();
     const int first = table->rowCount();
     const int count = int(data->rows.size());
     const int columns = table->columnCount();
+    const bool reportOnce = !table->isSortingEnabled() && count > 0 && columns > 0;
     {
         VKD_QT_SignalBlocker blocker(table);
         table->setRowCount(first + count);
         RowTextMaker texts;
         std::vector<int> ids(size_t(columns), -1);
-        for (int c = 0; c < columns; ++c)
+        std::vector<const VKD_H_TwHeaderItem*> headers(size_t(columns), nullptr);
+        for (int c = 0; c < columns; ++c) {
             ids[size_t(c)] = table->getColumnId(c);
+            headers[size_t(c)] = dynamic_cast<const VKD_H_TwHeaderItem*>(table->horizontalHeaderItem(c));
+        }
+        const QSignalBlocker quiet(reportOnce ? model : nullptr);
         for (int r = 0; r < count; ++r) {
             const DesignParameterRow& row = data->rows[size_t(r)];
             for (int c = 0; c < columns; ++c) {
-                QTableWidgetItem* item = emptyCell(c);
+                // A new item of the column as its header makes them, as an added row has.
+                const VKD_H_TwHeaderItem* header = headers[size_t(c)];
+                QTableWidgetItem* item = header ? header->createEmptyItem() : new QTableWidgetItem;
                 const int id = ids[size_t(c)];
                 if (id >= ColumnSelection && id <= ColumnCrackControl)
                     showText(*item, id, texts.text(row, id));
                 table->setItem(r, c, item);
             }
         }
+    }
+    if (reportOnce)
+        emit model->dataChanged(model->index(0, 0), model->index(count - 1, columns - 1));
+    {
+        VKD_QT_SignalBlocker blocker(table);
         for (int r = std::max(first, count); r < first + count; ++r)
             table->createEmptyItems(r);
     }
     for (int r = first; r < first + count; ++r)
         emit table->rowsAdded(r);
-}
-
-QTableWidgetItem* DesignParameter::emptyCell(int column) const
-{
-    const auto* header = dynamic_cast<const VKD_H_TwHeaderItem*>(data->table->horizontalHeaderItem(column));
-    return header ? header->createEmptyItem() : new QTableWidgetItem;
 }
 
 void DesignParameter::widenColumns()

@@ -69,8 +69,6 @@ private:
     // Draws one row again, or with -1 appends all rows to an empty table.
     void refreshRows(int number);
     void appendRows();
-    // A new item of the column as its header makes them.
-    QTableWidgetItem* emptyCell(int column) const;
     // A cell shows its text centred, read-only but for the type.
     static void showText(QTableWidgetItem& item, int column, const QString& text);
     void swapRows(int a, int b);

@@ -32,22 +32,22 @@ QString tr(const char* text)
     return QCoreApplication::translate("DesignParameter", text);
 }
 
-// The two lines of a summary column, and whether the second line ends with a separator too.
-struct Summary
-{
-    const SummaryField* first;
-    int firstCount;
-    const SummaryField* second;
-    int secondCount;
-    bool closing;
-};
-
 } // namespace
 
 struct SummaryField
 {
     float R::*member;
     int code;
+};
+
+// The two lines of a summary column, and whether the second line ends with a separator too.
+struct SummaryLayout
+{
+    const SummaryField* first;
+    int firstCount;
+    const SummaryField* second;
+    int secondCount;
+    bool closing;
 };
 
 namespace {
@@ -82,12 +82,12 @@ constexpr SummaryField kLowerStresses[] = {{&R::sigu, VKD_H_DIM_STEEL_STRESS},
                                            {&R::sigui, VKD_H_DIM_STEEL_STRESS}};
 
 template <int N, int M>
-Summary summary(const SummaryField (&first)[N], const SummaryField (&second)[M], bool closing)
+SummaryLayout summary(const SummaryField (&first)[N], const SummaryField (&second)[M], bool closing)
 {
     return {first, N, second, M, closing};
 }
 
-bool summarise(int column, int type, Summary& s)
+bool summarise(int column, int type, SummaryLayout& s)
 {
     if (type <= 0 || type > 5)
         return false;
@@ -164,9 +164,33 @@ QString RowTextMaker::text(const DesignParameterRow& row, int column)
         return groupListText(row.groups);
     if (column == ColumnType)
         return typeName(row.record.type % 10);
-    Summary s;
+    SummaryLayout s;
     if (!summarise(column, row.record.type, s))
         return QString();
+    SummaryKey key{column, row.record.type, row.barData, {}};
+    for (int i = 0; i < s.firstCount; ++i)
+        key.bits[i] = bitsOf(row.record.*s.first[i].member);
+    for (int i = 0; i < s.secondCount; ++i)
+        key.bits[s.firstCount + i] = bitsOf(row.record.*s.second[i].member);
+    auto kept = m_summaries.constFind(key);
+    if (kept == m_summaries.constEnd())
+        kept = m_summaries.insert(key, summary(row, s));
+    return *kept;
+}
+
+bool RowTextMaker::SummaryKey::operator==(const SummaryKey& other) const
+{
+    return column == other.column && type == other.type && bars == other.bars &&
+           std::memcmp(bits, other.bits, sizeof bits) == 0;
+}
+
+uint qHash(const RowTextMaker::SummaryKey& key, uint seed)
+{
+    return qHashBits(key.bits, sizeof key.bits, seed) ^ uint(key.column * 31 + key.type);
+}
+
+QString RowTextMaker::summary(const DesignParameterRow& row, const SummaryLayout& s)
+{
     QString out;
     appendLine(out, row, s.first, s.firstCount);
     out += QLatin1Char('\n');
