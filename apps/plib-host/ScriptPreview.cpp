@@ -11,9 +11,9 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QScrollBar>
 #include <QSyntaxHighlighter>
 #include <QVBoxLayout>
 
@@ -116,11 +116,18 @@ void ScriptPreview::setCaption(const QString& caption)
 
 QString ScriptPreview::text() const
 {
-    return m_text->toPlainText();
+    return m_stale ? m_source(englishKeywords()) : m_text->toPlainText();
 }
 
 void ScriptPreview::refresh()
 {
+    // Laying out the script costs more than making it: a preview its dialog hid (beside the
+    // design page, where the dialog starts) is brought up to date when it is shown again.
+    if (isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide)) {
+        m_stale = true;
+        return;
+    }
+    m_stale = false;
     const QString script = m_source(englishKeywords());
     if (script == m_text->toPlainText())
         return;
@@ -129,7 +136,15 @@ void ScriptPreview::refresh()
     m_text->setPlainText(script);
     m_text->verticalScrollBar()->setValue(scroll);
     m_status->setText(script.isEmpty() ? tr("No plot is chosen: the script is empty.")
-                                       : tr("%n line(s)", nullptr, script.split(QLatin1Char('\n'), Qt::SkipEmptyParts).size()));
+                                       : tr("%n line(s)", nullptr,
+                                            script.split(QLatin1Char('\n'), Qt::SkipEmptyParts).size()));
+}
+
+void ScriptPreview::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_stale)
+        refresh();
 }
 
 void ScriptPreview::copy()
@@ -145,6 +160,7 @@ void ScriptPreview::saveAs()
         return;
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(text().toUtf8()) < 0 || !file.commit())
-        VKD_QT_MessageBox::warning(this, tr("Save Script"),
-                                   tr("The script could not be written to %1: %2").arg(path, file.errorString()));
+        VKD_QT_MessageBox::warning(
+            this, tr("Save Script"),
+            tr("The script could not be written to %1: %2").arg(path, file.errorString()));
 }
