@@ -112,10 +112,12 @@ void DesignParameter::buildTable()
         new VKD_H_TwHeaderItem(ColumnReinforcement, reinforcement, reinforcement, true, Qt::AlignCenter));
     table->setHorizontalHeaderItem(
         ColumnCrackControl, new VKD_H_TwHeaderItem(ColumnCrackControl, crack, crack, true, Qt::AlignCenter));
-    // The summaries are plain texts; the type keeps the table's own editor.
+    // The summaries are plain texts; the type keeps the table's own editor, its combo box.
     auto* texts = new TextSizeDelegate(table);
     for (int id : {ColumnSelection, ColumnDirection, ColumnReinforcement, ColumnCrackControl})
         table->setItemDelegateForColumn(table->getColumnNumber(id), texts);
+    table->setItemDelegateForColumn(table->getColumnNumber(ColumnType),
+                                    new TextSizeDelegate(table, table->itemDelegate()));
     table->resizeColumnsToContents();
     const int widths[] = {150, 150, 200, 120, 120};
     for (int id = ColumnSelection; id <= ColumnCrackControl; ++id)

@@ -25,6 +25,44 @@ void DesignParameterTable::contextMenuEvent(QContextMenuEvent*)
     menu->exec(QCursor::pos(), nullptr);
 }
 
+TextSizeDelegate::TextSizeDelegate(QObject* parent, QAbstractItemDelegate* editing)
+    : QStyledItemDelegate(parent), m_editing(editing)
+{
+}
+
+QWidget* TextSizeDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                        const QModelIndex& index) const
+{
+    return m_editing ? m_editing->createEditor(parent, option, index)
+                     : QStyledItemDelegate::createEditor(parent, option, index);
+}
+
+void TextSizeDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    if (m_editing)
+        m_editing->setEditorData(editor, index);
+    else
+        QStyledItemDelegate::setEditorData(editor, index);
+}
+
+void TextSizeDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                    const QModelIndex& index) const
+{
+    if (m_editing)
+        m_editing->setModelData(editor, model, index);
+    else
+        QStyledItemDelegate::setModelData(editor, model, index);
+}
+
+void TextSizeDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                            const QModelIndex& index) const
+{
+    if (m_editing)
+        m_editing->updateEditorGeometry(editor, option, index);
+    else
+        QStyledItemDelegate::updateEditorGeometry(editor, option, index);
+}
+
 bool TextSizeDelegate::Key::operator==(const Key& other) const
 {
     return text == other.text && style == other.style && features == other.features &&

@@ -9,14 +9,22 @@
 class QContextMenuEvent;
 class QStyle;
 
-// Draws and edits as QStyledItemDelegate does, and keeps the sizes it gave: widening a column to
-// its contents lays out the text of every row, and the rows of a table mostly repeat the same
-// few texts. A size is reused only where everything it depends on is equal.
+// Draws as QStyledItemDelegate does, and keeps the sizes it gave: widening a column to its
+// contents lays out the text of every row, and the rows of a table mostly repeat the same few
+// texts. A size is reused only where everything it depends on is equal. Editors are those of
+// QStyledItemDelegate, or made by the editing delegate if one is given (the table's own, for a
+// column edited with a combo box).
 class TextSizeDelegate : public QStyledItemDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit TextSizeDelegate(QObject* parent, QAbstractItemDelegate* editing = nullptr);
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const override;
 
     // More sizes than this are not kept; the table shows summaries of few distinct kinds.
     static constexpr int kMaxKept = 4096;
@@ -39,6 +47,7 @@ public:
     };
 
 private:
+    QAbstractItemDelegate* m_editing;
     mutable QHash<Key, QSize> m_sizes;
 };
 
