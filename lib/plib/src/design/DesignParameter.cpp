@@ -259,9 +259,10 @@ void DesignParameter::appendRows()
     const int count = int(data->rows.size());
     const int columns = table->columnCount();
     const bool reportOnce = !table->isSortingEnabled() && count > 0 && columns > 0;
+    // The table tells of its new row count once, as it told of each added row.
+    table->setRowCount(first + count);
     {
         VKD_QT_SignalBlocker blocker(table);
-        table->setRowCount(first + count);
         RowTextMaker texts;
         std::vector<int> ids(size_t(columns), -1);
         std::vector<const VKD_H_TwHeaderItem*> headers(size_t(columns), nullptr);
