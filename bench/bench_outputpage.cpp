@@ -30,6 +30,20 @@ GraphicalOutputTreeWidget* treeOf(VKD_P_WidgetGraphicalOutput& page)
     return page.findChild<GraphicalOutputTreeWidget*>(QStringLiteral("m_list"));
 }
 
+// The rows below item with a check state other than unchecked, each one's text read.
+int readRows(QTreeWidgetItem* item)
+{
+    int count = 0;
+    for (int i = 0; i < item->childCount(); ++i) {
+        QTreeWidgetItem* child = item->child(i);
+        if (child->childCount() > 0)
+            count += readRows(child);
+        else if (child->checkState(0) != Qt::Unchecked)
+            count += child->text(0).isEmpty() ? 0 : 1;
+    }
+    return count;
+}
+
 void scriptOfAllRows(bench::Harness& harness, int plots, int rowsPerPlot)
 {
     bench::fillCatalogue(plots);
@@ -57,6 +71,21 @@ void scriptOfAllRows(bench::Harness& harness, int plots, int rowsPerPlot)
                      1.5});
     if (script != expected || joined != expected)
         std::fprintf(stderr, "the script of a run differs from the first\n");
+
+    // Not a target: how much of the script is the walk over the tree's items alone.
+    int texts = 0;
+    harness.compare({QStringLiteral("getTORVAL, all rows checked"),
+                     QStringLiteral("%1 x %2 tree").arg(plots).arg(rowsPerPlot),
+                     QStringLiteral("reading every row's check state and text, nothing written"),
+                     [&] { script = page->getTORVAL(true); },
+                     [&] {
+                         texts = 0;
+                         for (int i = 0; i < tree->topLevelItemCount(); ++i)
+                             texts += readRows(tree->topLevelItem(i));
+                     },
+                     0.0});
+    if (texts == 0)
+        std::fprintf(stderr, "the walk read no text\n");
 }
 
 // A table as a host keeps it: check box, number, title.

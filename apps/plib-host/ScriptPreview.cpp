@@ -119,11 +119,18 @@ void ScriptPreview::setCaption(const QString& caption)
 
 QString ScriptPreview::text() const
 {
-    return m_text->toPlainText();
+    return m_stale ? m_source(englishKeywords()) : m_text->toPlainText();
 }
 
 void ScriptPreview::refresh()
 {
+    // Laying out the script costs more than making it: a preview its dialog hid (beside the
+    // design page, where the dialog starts) is brought up to date when it is shown again.
+    if (isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide)) {
+        m_stale = true;
+        return;
+    }
+    m_stale = false;
     const QString script = m_source(englishKeywords());
     if (script == m_text->toPlainText())
         return;
@@ -135,6 +142,13 @@ void ScriptPreview::refresh()
     m_status->setText(script.isEmpty() ? tr("No plot is chosen: the script is empty.")
                       : lines == 1     ? tr("1 line")
                                        : tr("%1 lines").arg(lines));
+}
+
+void ScriptPreview::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_stale)
+        refresh();
 }
 
 void ScriptPreview::copy()

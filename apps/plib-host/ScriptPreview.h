@@ -28,10 +28,15 @@ public slots:
     void saveAs();
     void copy();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     std::function<QString(bool)> m_source;
     QLabel* m_caption;
     QComboBox* m_language;
     QPlainTextEdit* m_text;
     QLabel* m_status;
+    // A refresh came while the preview was hidden.
+    bool m_stale = false;
 };

@@ -14,8 +14,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <charconv>
-#include <functional>
 
 using namespace vkd::plib::widgetgraphicaloutput;
 
@@ -77,6 +75,46 @@ bool pruneHollow(Item* item)
     delete item;
     return true;
 }
+
+// The script lines of a subtree, those of an item's children before its own. With the automatic
+// update on, a Checked item has only Checked descendants and an Unchecked one only Unchecked
+// ones, so that only the children of partly chosen items are asked for their states.
+struct LineWalk
+{
+    static constexpr int unknown = -1;
+
+    ScriptContext& context;
+    ScriptLineSink& sink;
+    bool automatic;
+
+    // What the descendants of an item in this state are known to be, if anything.
+    int stateBelow(Qt::CheckState state) const
+    {
+        return automatic && state != Qt::PartiallyChecked ? int(state) : unknown;
+    }
+
+    void children(QTreeWidgetItem* parent, int known)
+    {
+        if (known == Qt::Unchecked)
+            return;
+        const Item* above = treeItem(parent->parent());
+        const GraphicalOutputRecord* captionRecord = above ? &above->record() : nullptr;
+        const int n = parent->childCount();
+        for (int i = 0; i < n; ++i) {
+            QTreeWidgetItem* child = parent->child(i);
+            const Item* item = treeItem(child);
+            const Qt::CheckState state = known != unknown ? Qt::CheckState(known)
+                                         : item           ? item->state()
+                                                          : child->checkState(0);
+            if (child->childCount() > 0)
+                children(child, known == unknown ? stateBelow(state) : known);
+            if (!item || item->isLC < 0 || state == Qt::Unchecked)
+                continue;
+            appendScriptLines(context, ScriptEntry{item->record(), item->number, item->text(0), captionRecord},
+                              sink);
+        }
+    }
+};
 
 void appendSelection(QString& out, QTreeWidgetItem* treeWidgetItem)
 {
@@ -559,27 +597,21 @@ void GraphicalOutputTreeWidget::setUsedNumbersAndNames(const std::vector<Loadcas
 int GraphicalOutputTreeWidget::collectScriptLines(std::vector<QString>& lines, bool english)
 {
     lines.clear();
-    if (!treeItem(topLevelItem(0)))
-        return 0;
-    ScriptContext context(english, progname, [this] { return ProjectModel(parameter).kindOfSystem(); });
-    // Depth first: the lines of an item's children come before its own.
-    std::function<void(QTreeWidgetItem*)> walk = [&](QTreeWidgetItem* parent) {
-        const Item* above = treeItem(parent->parent());
-        const GraphicalOutputRecord* captionRecord = above ? &above->record() : nullptr;
-        for (int i = 0; i < parent->childCount(); ++i) {
-            QTreeWidgetItem* child = parent->child(i);
-            walk(child);
-            const Item* item = treeItem(child);
-            if (!item || item->isLC < 0 || item->checkState(0) == Qt::Unchecked)
-                continue;
-            const QString label = item->text(0);
-            appendScriptLines(context, ScriptEntry{item->record(), item->number, label, captionRecord},
-                              lines);
-        }
-    };
-    for (int i = 0; i < topLevelItemCount(); ++i)
-        walk(topLevelItem(i));
+    ScriptLineList list(lines);
+    collectScriptLines(list, english);
     return int(lines.size());
+}
+
+void GraphicalOutputTreeWidget::collectScriptLines(ScriptLineSink& sink, bool english)
+{
+    if (!treeItem(topLevelItem(0)))
+        return;
+    ScriptContext context(english, progname, [this] { return ProjectModel(parameter).kindOfSystem(); });
+    LineWalk walk{context, sink, automaticCheckStateUpdate()};
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        QTreeWidgetItem* top = topLevelItem(i);
+        walk.children(top, walk.stateBelow(top->checkState(0)));
+    }
 }
 
 QString GraphicalOutputTreeWidget::selectionText() const

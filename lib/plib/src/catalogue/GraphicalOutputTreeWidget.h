@@ -13,6 +13,9 @@
 #include <vector>
 
 class GraphicalOutputTreeWidget;
+namespace vkd::plib::widgetgraphicaloutput {
+class ScriptLineSink;
+}
 class VKD_H_PluginParameter;
 class VKD_QT_Action;
 class VKD_QT_Menu;
@@ -101,6 +104,8 @@ public:
     // Empties lines and fills them with the script lines of the checked plots and rows, with
     // English or German keywords; gives their number.
     int collectScriptLines(std::vector<QString>& lines, bool english);
+    // The same lines, handed to sink one by one.
+    void collectScriptLines(vkd::plib::widgetgraphicaloutput::ScriptLineSink& sink, bool english);
     // The choice as text, and back.
     QString selectionText() const;
     void applySelection(QString text);

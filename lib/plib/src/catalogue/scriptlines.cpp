@@ -59,33 +59,42 @@ QString viewOf(ScriptContext& context, int viewKind)
 
 void appendScriptLines(ScriptContext& context, const ScriptEntry& entry, std::vector<QString>& lines)
 {
-    QString script = context.english ? entry.record.scriptEnglish : entry.record.scriptGerman;
+    ScriptLineList list(lines);
+    appendScriptLines(context, entry, list);
+}
+
+void appendScriptLines(ScriptContext& context, const ScriptEntry& entry, ScriptLineSink& sink)
+{
+    const QString& script = context.english ? entry.record.scriptEnglish : entry.record.scriptGerman;
     // A null and an empty view are equal here: a plot without view at the start adds no line.
-    const QString view = viewOf(context, entry.record.viewKind);
-    if (view != context.lastView) {
-        context.lastView = view;
-        lines.push_back(context.viewWord + view);
+    // Rows mostly repeat the kind of view of the row before, which gives the same view.
+    if (entry.record.viewKind != context.lastViewKind) {
+        context.lastViewKind = entry.record.viewKind;
+        const QString view = viewOf(context, entry.record.viewKind);
+        if (view != context.lastView) {
+            context.lastView = view;
+            sink.line(context.viewWord + view);
+        }
     }
     const int number = entry.number;
     if (number < 0)
         return;
     if (number == 0) {
-        lines.push_back(script);
+        sink.line(script);
         return;
     }
     if (context.progname == splitPage) {
         // The split page makes one sheet per load case; the case goes into the script text.
-        script.replace(QLatin1String("$(LFNR)"), QString::number(number + splitSheetCaseOffset));
-        lines.push_back(script);
+        sink.line(QString(script).replace(QLatin1String("$(LFNR)"), QString::number(number + splitSheetCaseOffset)));
         return;
     }
     if (number != context.lastCase) {
         context.lastCase = number;
-        lines.push_back(context.caseLine(number));
+        sink.caseLine(context.caseLine(number));
     }
     int second = 0;
     if (!secondCase(entry.label, &second)) {
-        lines.push_back(script);
+        sink.line(script);
         return;
     }
     // The plot of the first case and that of the second one over it, in two colours.
@@ -96,21 +105,29 @@ void appendScriptLines(ScriptContext& context, const ScriptEntry& entry, std::ve
         if (captionScript.contains(QLatin1String("UNIT")))
             unit.clear();
     }
-    lines.push_back(context.firstColour + script + context.andWord);
-    lines.push_back(context.caseLine(second));
-    lines.push_back(context.secondColour + script + unit + context.colourEnd);
+    sink.line(context.firstColour + script + context.andWord);
+    sink.caseLine(context.caseLine(second));
+    sink.line(context.secondColour + script + unit + context.colourEnd);
     context.lastCase = second;
 }
 
 bool secondCase(const QString& label, int* second)
 {
-    const int colon = label.indexOf(QLatin1Char(':'));
-    const QStringRef head = colon >= 0 ? label.leftRef(colon) : label.leftRef(5);
-    const int plus = head.indexOf(QLatin1Char('+'));
-    if (plus < 0)
+    // One pass over the label: this runs for every checked row of every plot.
+    const QChar* text = label.constData();
+    const int size = label.size();
+    int plus = -1;
+    int end = 0;
+    while (end < size && text[end] != QLatin1Char(':')) {
+        if (plus < 0 && text[end] == QLatin1Char('+'))
+            plus = end;
+        ++end;
+    }
+    const int headSize = end < size ? end : qMin(size, 5);
+    if (plus < 0 || plus >= headSize)
         return false;
     bool ok = false;
-    const int value = head.mid(plus + 1).toInt(&ok, 10);
+    const int value = label.midRef(plus + 1, headSize - plus - 1).toInt(&ok, 10);
     *second = ok ? value : -1;
     return true;
 }

@@ -30,6 +30,7 @@
 
 #include <algorithm>
 #include <list>
+#include <vector>
 
 using namespace vkd::plib::design;
 
@@ -112,6 +113,12 @@ void DesignParameter::buildTable()
         new VKD_H_TwHeaderItem(ColumnReinforcement, reinforcement, reinforcement, true, Qt::AlignCenter));
     table->setHorizontalHeaderItem(
         ColumnCrackControl, new VKD_H_TwHeaderItem(ColumnCrackControl, crack, crack, true, Qt::AlignCenter));
+    // The summaries are plain texts; the type keeps the table's own editor, its combo box.
+    auto* texts = new TextSizeDelegate(table);
+    for (int id : {ColumnSelection, ColumnDirection, ColumnReinforcement, ColumnCrackControl})
+        table->setItemDelegateForColumn(table->getColumnNumber(id), texts);
+    table->setItemDelegateForColumn(table->getColumnNumber(ColumnType),
+                                    new TextSizeDelegate(table, table->itemDelegate()));
     table->resizeColumnsToContents();
     const int widths[] = {150, 150, 200, 120, 120};
     for (int id = ColumnSelection; id <= ColumnCrackControl; ++id)
@@ -210,15 +217,18 @@ void DesignParameter::drawRow(const DesignParameterRow& row, int number, bool is
     VKD_QT_SignalBlocker blocker(table);
     if (isNew)
         table->createEmptyItems(number);
-    for (int column = ColumnSelection; column <= ColumnCrackControl; ++column) {
-        QTableWidgetItem* item = table->itemOnColId(number, column);
-        if (!item)
-            continue;
-        item->setText(rowText(row, column));
-        item->setTextAlignment(Qt::AlignCenter);
-        if (column != ColumnType)
-            item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-    }
+    RowTextMaker texts;
+    for (int column = ColumnSelection; column <= ColumnCrackControl; ++column)
+        if (QTableWidgetItem* item = table->itemOnColId(number, column))
+            showText(*item, column, texts.text(row, column));
+}
+
+void DesignParameter::showText(QTableWidgetItem& item, int column, const QString& text)
+{
+    item.setText(text);
+    item.setTextAlignment(Qt::AlignCenter);
+    if (column != ColumnType)
+        item.setFlags(item.flags() & ~Qt::ItemIsEditable);
 }
 
 void DesignParameter::refreshRows(int number)
@@ -233,12 +243,57 @@ void DesignParameter::refreshRows(int number)
         }
         return;
     }
-    for (size_t i = 0; i < data->rows.size(); ++i) {
-        table->addNewRow(false);
-        drawRow(data->rows[i], int(i), true);
-    }
+    appendRows();
     widenColumns();
     emit signal_rowCountChanged(table->rowCount());
+}
+
+void DesignParameter::appendRows()
+{
+    // The rows are appended at the end and drawn from the top, so that a table that had rows
+    // already keeps rows without text behind the drawn ones. All rows come in at once, every
+    // cell is filled before it enters the table, and the model reports all drawn cells in one,
+    // not each cell on its own (unless the table sorts, which moves rows as cells come).
+    DesignParameterTable* table = data->table;
+    QAbstractItemModel* model = table->model();
+    const int first = table->rowCount();
+    const int count = int(data->rows.size());
+    const int columns = table->columnCount();
+    const bool reportOnce = !table->isSortingEnabled() && count > 0 && columns > 0;
+    // The table tells of its new row count once, as it told of each added row.
+    table->setRowCount(first + count);
+    {
+        VKD_QT_SignalBlocker blocker(table);
+        RowTextMaker texts;
+        std::vector<int> ids(size_t(columns), -1);
+        std::vector<const VKD_H_TwHeaderItem*> headers(size_t(columns), nullptr);
+        for (int c = 0; c < columns; ++c) {
+            ids[size_t(c)] = table->getColumnId(c);
+            headers[size_t(c)] = dynamic_cast<const VKD_H_TwHeaderItem*>(table->horizontalHeaderItem(c));
+        }
+        const QSignalBlocker quiet(reportOnce ? model : nullptr);
+        for (int r = 0; r < count; ++r) {
+            const DesignParameterRow& row = data->rows[size_t(r)];
+            for (int c = 0; c < columns; ++c) {
+                // A new item of the column as its header makes them, as an added row has.
+                const VKD_H_TwHeaderItem* header = headers[size_t(c)];
+                QTableWidgetItem* item = header ? header->createEmptyItem() : new QTableWidgetItem;
+                const int id = ids[size_t(c)];
+                if (id >= ColumnSelection && id <= ColumnCrackControl)
+                    showText(*item, id, texts.text(row, id));
+                table->setItem(r, c, item);
+            }
+        }
+    }
+    if (reportOnce)
+        emit model->dataChanged(model->index(0, 0), model->index(count - 1, columns - 1));
+    {
+        VKD_QT_SignalBlocker blocker(table);
+        for (int r = std::max(first, count); r < first + count; ++r)
+            table->createEmptyItems(r);
+    }
+    for (int r = first; r < first + count; ++r)
+        emit table->rowsAdded(r);
 }
 
 void DesignParameter::widenColumns()

@@ -65,6 +65,9 @@ private:
     void drawRow(const DesignParameterRow& row, int number, bool isNew);
     // Draws one row again, or with -1 appends all rows to an empty table.
     void refreshRows(int number);
+    void appendRows();
+    // A cell shows its text centred, read-only but for the type.
+    static void showText(QTableWidgetItem& item, int column, const QString& text);
     void swapRows(int a, int b);
     // True if some row applies to the remaining groups.
     bool hasRemainingRow() const;

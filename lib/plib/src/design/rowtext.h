@@ -4,6 +4,8 @@
 
 #include "DesignParameterData.h"
 
+#include <QHash>
+#include <QPair>
 #include <QString>
 
 namespace vkd::plib::design {
@@ -28,5 +30,44 @@ QString rowText(const DesignParameterRow& row, int column);
 // One value of a row: " - " when not set, the bar text for bar diameters (code 1023), else the
 // number in the user's unit followed directly by unit.
 QString valueText(const DesignParameterRow& row, float value, int code, const QString& unit);
+
+struct SummaryField;
+struct SummaryLayout;
+
+// Makes the texts of many rows, as rowText does: rows share most of their values, so each unit
+// label, type name and value is made once. The units must not change while it is in use.
+class RowTextMaker
+{
+public:
+    QString text(const DesignParameterRow& row, int column);
+
+    // The most values a summary shows: four directions and six distances.
+    static constexpr int kMaxSummaryValues = 10;
+
+private:
+    struct SummaryKey
+    {
+        int column;
+        int type;
+        const void* bars;
+        quint32 bits[kMaxSummaryValues];
+        bool operator==(const SummaryKey& other) const;
+    };
+    friend uint qHash(const SummaryKey& key, uint seed);
+
+    QString summary(const DesignParameterRow& row, const SummaryLayout& layout);
+    void appendLine(QString& out, const DesignParameterRow& row, const SummaryField* fields, int count);
+    const QString& value(const DesignParameterRow& row, float value, int code);
+    const QString& unit(int code);
+    const QString& typeName(int type);
+
+    QHash<int, QString> m_units;
+    QHash<int, QString> m_typeNames;
+    // By unit code and the bits of the value; bar texts by the bar table and the bits.
+    QHash<QPair<int, quint32>, QString> m_values;
+    QHash<QPair<const void*, quint32>, QString> m_bars;
+    // Rows mostly repeat whole summaries.
+    QHash<SummaryKey, QString> m_summaries;
+};
 
 } // namespace vkd::plib::design

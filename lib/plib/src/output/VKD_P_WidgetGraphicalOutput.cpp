@@ -325,10 +325,11 @@ void VKD_P_WidgetGraphicalOutput::additionalData(const QString& tag, bool add)
 
 QString VKD_P_WidgetGraphicalOutput::getTORVAL(const QString& additional, bool english)
 {
-    std::vector<QString> lines;
-    data->tree->collectScriptLines(lines, english);
     const SuiteScriptEnvironment environment(data->pluginParameter);
-    return script(settingsOf(data), lines, additional, english, environment);
+    return scriptFromWriter(
+        settingsOf(data),
+        [this, english](ScriptLineSink& sink) { data->tree->collectScriptLines(sink, english); }, additional,
+        english, environment);
 }
 
 QString VKD_P_WidgetGraphicalOutput::getTORVAL(bool english)

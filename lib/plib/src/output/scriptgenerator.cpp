@@ -1,5 +1,7 @@
 #include "scriptgenerator.h"
 
+#include <utility>
+
 namespace vkd::plib::widgetgraphicaloutput {
 
 namespace {
@@ -69,24 +71,60 @@ QString splitResult(const OutputSettings& settings, const QString& additional, b
     return result;
 }
 
-// The plot lines, each with its view replaced by the page's one unless that is the 3D standard.
-QString body(const OutputSettings& settings, const std::vector<QString>& plotLines, const QString& view)
+// Writes plot lines into the text of the script, each with its view replaced by the page's one
+// unless that is the 3D standard, and the frame of the script before the first of them.
+class ScriptText : public ScriptLineSink
 {
-    int size = 0;
-    for (const QString& line : plotLines)
-        size += line.size() + 1;
-    QString out;
-    out.reserve(size);
-    for (const QString& line : plotLines) {
-        const int at = settings.viewId == View3DStandard ? -1 : line.indexOf(QLatin1String("EG3"));
-        if (at > 0)
-            out += line.left(at) + view;
-        else
-            out += line;
-        out += QLatin1Char('\n');
+public:
+    ScriptText(QString& out, const QString* view, std::function<void()> writeHead)
+        : m_out(out), m_view(view), m_writeHead(std::move(writeHead))
+    {
     }
-    return out;
-}
+
+    void line(const QString& text) override
+    {
+        begin();
+        m_out += m_view ? withView(text) : text;
+        m_out += QLatin1Char('\n');
+    }
+
+    void caseLine(const QString& text) override
+    {
+        begin();
+        m_out += text;
+        m_out += QLatin1Char('\n');
+    }
+
+    bool empty() const { return !m_started; }
+
+private:
+    void begin()
+    {
+        if (m_started)
+            return;
+        m_started = true;
+        m_writeHead();
+    }
+
+    const QString& withView(const QString& text)
+    {
+        // The rows of a plot repeat its script text: a line that shares its text with the one
+        // replaced last takes the same result. The kept copy keeps that text unchanged.
+        if (text.constData() != m_lastText.constData() || text.size() != m_lastText.size()) {
+            m_lastText = text;
+            const int at = text.indexOf(QLatin1String("EG3"));
+            m_lastResult = at > 0 ? text.left(at) + *m_view : text;
+        }
+        return m_lastResult;
+    }
+
+    QString& m_out;
+    const QString* m_view;
+    std::function<void()> m_writeHead;
+    bool m_started = false;
+    QString m_lastText;
+    QString m_lastResult;
+};
 
 } // namespace
 
@@ -162,28 +200,43 @@ QString fillDefinitions(bool fill, bool english)
 QString script(const OutputSettings& settings, const std::vector<QString>& plotLines,
                const QString& additional, bool english, const ScriptEnvironment& environment)
 {
+    return scriptFromWriter(
+        settings,
+        [&plotLines](ScriptLineSink& sink) {
+            for (const QString& line : plotLines)
+                sink.line(line);
+        },
+        additional, english, environment);
+}
+
+QString scriptFromWriter(const OutputSettings& settings,
+                         const std::function<void(ScriptLineSink&)>& writePlotLines,
+                         const QString& additional, bool english, const ScriptEnvironment& environment)
+{
     if (settings.variant == GraphicalOutputSplit)
         return splitResult(settings, additional, english);
-    if (plotLines.empty())
-        return QString();
 
     const bool prefix = settings.variant == GraphicalOutputPrefix;
-    QString plots = body(settings, plotLines, viewClause(settings, english, environment));
-    if (prefix)
-        plots.prepend(additional);
-
-    QString out = environment.programStart();
-    // The plot lines are nearly all of the script; the lines around them are short.
-    constexpr int frameReserve = 2048;
-    out.reserve(out.size() + plots.size() + additional.size() + frameReserve);
-    out += QLatin1String(english ? controlLinesEnglish : controlLinesGerman);
-    out += QStringLiteral("#define SCHR=") + fontNumber(settings) + QLatin1Char('\n');
-    out += fontStatement(settings, english) + QLatin1Char('\n');
-    out += fillDefinitions(settings.fillAreas, english);
-    if (environment.modelHasQuads())
-        out += QLatin1String(english ? cutLinesEnglish : cutLinesGerman);
-    out += pageSetup(settings, english) + QLatin1Char('\n');
-    out += plots;
+    QString out;
+    QString view;
+    // The environment is asked only once a plot line comes.
+    const auto writeHead = [&] {
+        view = viewClause(settings, english, environment);
+        out = environment.programStart();
+        out += QLatin1String(english ? controlLinesEnglish : controlLinesGerman);
+        out += QStringLiteral("#define SCHR=") + fontNumber(settings) + QLatin1Char('\n');
+        out += fontStatement(settings, english) + QLatin1Char('\n');
+        out += fillDefinitions(settings.fillAreas, english);
+        if (environment.modelHasQuads())
+            out += QLatin1String(english ? cutLinesEnglish : cutLinesGerman);
+        out += pageSetup(settings, english) + QLatin1Char('\n');
+        if (prefix)
+            out += additional;
+    };
+    ScriptText text(out, settings.viewId == View3DStandard ? nullptr : &view, writeHead);
+    writePlotLines(text);
+    if (text.empty())
+        return QString();
     if (!prefix && !additional.isEmpty())
         out += additional + QLatin1Char('\n');
     out += environment.programEnd(english) + QLatin1Char('\n');

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "scriptlines.h"
+
 #include <VKD_P_WidgetGraphicalOutput_Progname.h>
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 namespace vkd::plib::widgetgraphicaloutput {
@@ -66,5 +69,10 @@ QString fillDefinitions(bool fill, bool english);
 // variant the two alternative SIZE statements instead, whatever is chosen.
 QString script(const OutputSettings& settings, const std::vector<QString>& plotLines,
                const QString& additional, bool english, const ScriptEnvironment& environment);
+// The same, with the plot lines handed by writePlotLines to the sink it is given, straight into
+// the script's text.
+QString scriptFromWriter(const OutputSettings& settings,
+                         const std::function<void(ScriptLineSink&)>& writePlotLines,
+                         const QString& additional, bool english, const ScriptEnvironment& environment);
 
 } // namespace vkd::plib::widgetgraphicaloutput
