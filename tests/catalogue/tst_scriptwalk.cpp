@@ -63,7 +63,7 @@ void TestScriptWalk::rowsByTheirOwnStates()
     QFETCH(QString, unchecked);
     QFETCH(QString, expected);
     catalogueList() = parseText(catalogue);
-    catalogueLanguage = vkd_lib_getvalue(102);
+    catalogueLanguage = vkd_lib_getvalue(kSettingLanguage);
     VKD_H_PluginParameter parameter;
     GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
     tree.setUsedNumbersAndNames({{1, 1, "1: r1"}, {1, 2, "2: r2"}});
