@@ -386,6 +386,7 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&page));
         DesignParameterTable* table = tableOf(&page);
         QVERIFY(matchesReference(tableText(table), QStringLiteral("demo-project.txt")));
+        QVERIFY(button(&page, QStringLiteral("btnNew"))->y() > table->y()); // the buttons below the table
         const QString threeLayers = table->item(3, 2)->text();
         QVERIFY(chooseType(table, 3, QStringLiteral("Two Layers")));
         QVERIFY(!table->item(3, 2)->text().contains(QStringLiteral("1.5 cm")));
