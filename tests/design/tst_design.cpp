@@ -412,7 +412,6 @@ private slots:
         QTest::newRow("equal rows fold when they meet")
             << "" << "A:-1 B:2 B:5,6 A:3" << "-1A 2B 5B 6B 3A" << "" << "A:-1 B:2,5,6 A:3";
         QTest::newRow("rows without groups write nothing") << "1A 2B" << "A: B:" << "" << "" << "";
-        QTest::newRow("no rows empty the key pair") << "1A 2B" << "" << "" << "" << "";
         QTest::newRow("foreign records dropped into the scratch key")
             << "1A 2B/m5 3A/m0 4C/s1 -1A" << "B:8" << "8B" << "2B/m5 4C/s1" << "B:8";
         // clang-format on
@@ -442,30 +441,16 @@ private slots:
         QCOMPARE(records(kScratchIndex, kScratchKey1, kScratchKey2), QString());
     }
 
-    void groupList_data()
-    {
-        QTest::addColumn<Groups>("groups");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("empty") << Groups{} << "None";
-        QTest::newRow("remaining groups") << Groups{-1} << "Remaining Groups";
-        QTest::newRow("-1 among others") << Groups{-1, 4} << "-1;4";
-        QTest::newRow("1000000 is a name") << Groups{1000000} << QStringLiteral("@B\\x0f");
-        QTest::newRow("blanks around a name go") << Groups{packed(' ', 'S', ' ', ' '), 2} << "S;2";
-        QTest::newRow("zero byte ends the name") << Groups{packed('A', 'B', 0, 'C')} << "AB";
-        QTest::newRow("four characters") << Groups{packed('W', 'A', 'L', 'L')} << "WALL";
-    }
-
-    void groupList()
-    {
-        QFETCH(Groups, groups);
-        QFETCH(QString, text);
-        QCOMPARE(rowText(row(getDefaultMerPara(false), groups), ColumnSelection), text);
-    }
-
-    // Every column of rows of every type, with defaults and fully set, as the table shows them.
+    // Every column of rows of every type, with defaults and fully set, as the table shows them;
+    // the selection of odd group lists: -1 among others, the first secondary group, names with
+    // blanks and a zero byte.
     void summaries()
     {
-        QString out;
+        QString out = QStringLiteral("== groups\n");
+        for (const Groups& groups :
+             {Groups{}, Groups{-1}, Groups{-1, 4}, Groups{1000000}, Groups{packed(' ', 'S', ' ', ' '), 2},
+              Groups{packed('A', 'B', 0, 'C')}, Groups{packed('W', 'A', 'L', 'L')}})
+            out += rowText(row(getDefaultMerPara(false), groups), ColumnSelection) + QLatin1Char('\n');
         auto add = [&](const QString& title, const DesignParameterRow& r) {
             out += QStringLiteral("== %1\n").arg(title);
             for (int column = -1; column <= 5; ++column)

@@ -3,6 +3,7 @@
 #include "DesignParameterTable.h"
 #include "PlibHostDialog.h"
 #include "designrecord.h"
+#include "designtest.h"
 #include "reference.h"
 
 #include <VKD_H_ProjectDialogPage.h>
@@ -10,20 +11,18 @@
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter.h>
 #include <VKD_QT_Dialog.h>
-#include <VKD_QT_Ok.h>
+#include <VKD_QT_InitTranslator.h>
 #include <VKD_QT_TableWidgetButton.h>
 #include <demomodel.h>
 #include <design.h>
-#include <vkd_q.h>
 
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QCryptographicHash>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
-#include <QMessageBox>
 #include <QProcess>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QtTest>
@@ -61,19 +60,6 @@ struct Project
     QTemporaryDir dir;
     std::unique_ptr<VKD_H_ZOBDoc> doc;
 };
-
-// All records of the design key pair, byte for byte.
-QByteArray designRecords(int index)
-{
-    QByteArray all;
-    char buffer[212];
-    for (int position = 0;; ++position) {
-        int length = int(sizeof buffer);
-        if (vkd_zob_get(index, 200, 6, buffer, &length, position) >= ZOB_END)
-            return all;
-        all.append(buffer, length);
-    }
-}
 
 QString oneLine(QString text)
 {
@@ -132,35 +118,6 @@ bool chooseType(QTableWidget* table, int row, const QString& text)
     return true;
 }
 
-// Answers the next modal message box with a button, as a person would, and remembers its title,
-// text and buttons.
-class BoxAnswerer : public QObject
-{
-public:
-    explicit BoxAnswerer(QMessageBox::StandardButton answer)
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this, answer] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            m_timer.stop();
-            const bool yesNo = box->standardButtons() == (QMessageBox::Yes | QMessageBox::No);
-            seen = QStringLiteral("%1: %2 (%3)")
-                       .arg(box->windowTitle(), oneLine(box->text()),
-                            yesNo ? QStringLiteral("Yes, No") : QString::number(box->standardButtons()));
-            if (QAbstractButton* button = box->button(answer))
-                button->click();
-            else
-                box->reject();
-        });
-        m_timer.start(10);
-    }
-    QString seen;
-
-private:
-    QTimer m_timer;
-};
-
 // Each button laid over a cell with its mode; "stale" if it does not show the text of its cell,
 // "leftover" if a button lives on outside the cells.
 QString editorState(const QTableWidget* table)
@@ -170,15 +127,13 @@ QString editorState(const QTableWidget* table)
     for (int r = 0; r < table->rowCount(); ++r) {
         for (int c = 0; c < table->columnCount(); ++c) {
             auto* b = qobject_cast<VKD_QT_TableWidgetButton*>(table->cellWidget(r, c));
-            if (!table->cellWidget(r, c))
+            if (!b)
                 continue;
-            out += b ? QStringLiteral(" button %1,%2 mode %3").arg(r).arg(c).arg(int(b->mode()))
-                     : QStringLiteral(" widget %1,%2").arg(r).arg(c);
-            const QString shown = !b ? QString()
-                                  : b->mode() == VKD_QT_TableWidgetButton::EditText
+            ++buttons;
+            out += QStringLiteral(" button %1,%2 mode %3").arg(r).arg(c).arg(int(b->mode()));
+            const QString shown = b->mode() == VKD_QT_TableWidgetButton::EditText
                                       ? b->findChild<QLabel*>()->text()
                                       : b->button()->text();
-            buttons += b ? 1 : 0;
             if (shown != table->item(r, c)->text())
                 out += QStringLiteral(" stale");
         }
@@ -186,23 +141,28 @@ QString editorState(const QTableWidget* table)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     if (table->findChildren<VKD_QT_TableWidgetButton*>().size() > buttons)
         out += QStringLiteral(" leftover");
-    return buttons == 0 && !out.contains(QLatin1String("widget")) ? out + QStringLiteral(" none") : out;
+    return buttons == 0 ? out + QStringLiteral(" none") : out;
 }
 
-// A page on the project, initialised and read, shown at a size that shows every cell.
-std::unique_ptr<VKD_P_DesignParameter> openPage(Project& project, bool show = true)
+// Opens the table's menu, as a right click would, picks the entry with the keyboard and gives
+// the entries it showed.
+QString menuStep(QTableWidget* table, const QString& entry)
 {
-    auto page =
-        std::make_unique<VKD_P_DesignParameter>(project.doc.get(), project.doc.get(), nullptr, false, false);
-    page->init();
-    page->readZob();
-    if (show) {
-        page->resize(1400, 700);
-        page->show();
-        if (!QTest::qWaitForWindowExposed(page.get()))
-            qWarning("the page was not exposed");
-    }
-    return page;
+    QStringList seen;
+    QTimer::singleShot(50, table, [&seen, entry] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        for (QAction* a : menu ? menu->actions() : QList<QAction*>()) {
+            seen << (a->isSeparator() ? QStringLiteral("-") : a->text());
+            if (a->text() == entry)
+                menu->setActiveAction(a);
+        }
+        if (menu)
+            QTest::keyClick(menu, Qt::Key_Return);
+    });
+    const QPoint at = table->visualRect(table->model()->index(0, 1)).center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, table->viewport()->mapToGlobal(at));
+    QApplication::sendEvent(table->viewport(), &event);
+    return seen.join(QLatin1Char('|'));
 }
 
 // Runs one step of userSteps; gives what a menu or a message box showed.
@@ -210,8 +170,7 @@ QString runStep(VKD_P_DesignParameter* page, const QString& step)
 {
     DesignParameterTable* table = tableOf(page);
     const QString word = step.section(QLatin1Char(' '), 0, 0), rest = step.section(QLatin1Char(' '), 1);
-    const QStringList buttons{"new", "delete", "up", "down"};
-    if (buttons.contains(word)) {
+    if (QStringList{"new", "delete", "up", "down"}.contains(word)) {
         QTest::mouseClick(button(page, QStringLiteral("btn") + word.at(0).toUpper() + word.mid(1)),
                           Qt::LeftButton);
     } else if (word == QLatin1String("click") || word == QLatin1String("ctrl")) {
@@ -227,33 +186,22 @@ QString runStep(VKD_P_DesignParameter* page, const QString& step)
         button(page, QStringLiteral("btnUp"))->setFocus();
         table->selectionModel()->clearCurrentIndex();
     } else if (word == QLatin1String("menu")) {
-        // Opens the table's menu, as a right click would, and picks the entry with the keyboard.
-        QStringList seen;
-        QTimer::singleShot(50, table, [&seen, rest] {
-            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            for (QAction* a : menu ? menu->actions() : QList<QAction*>()) {
-                seen << (a->isSeparator() ? QStringLiteral("-") : a->text());
-                if (a->text() == rest)
-                    menu->setActiveAction(a);
-            }
-            if (menu)
-                QTest::keyClick(menu, Qt::Key_Return);
-        });
-        const QPoint at = table->visualRect(table->model()->index(0, 1)).center();
-        QContextMenuEvent event(QContextMenuEvent::Mouse, at, table->viewport()->mapToGlobal(at));
-        QApplication::sendEvent(table->viewport(), &event);
-        return seen.join(QLatin1Char('|'));
+        return menuStep(table, rest);
     } else if (word == QLatin1String("check") || word == QLatin1String("ok")) {
-        BoxAnswerer answerer(rest == QLatin1String("Yes") ? QMessageBox::Yes : QMessageBox::No);
+        BoxWatcher boxes(rest == QLatin1String("Yes") ? QMessageBox::Yes : QMessageBox::No);
         QString result;
         if (word == QLatin1String("ok"))
             QTest::mouseClick(qobject_cast<PlibHostDialog*>(page->window())->buttonRow()->cmdOk(),
                               Qt::LeftButton);
         else
             result = page->checkVals() ? QStringLiteral("true") : QStringLiteral("false");
-        if (answerer.seen.isEmpty())
+        if (boxes.seen.isEmpty())
             return result.isEmpty() ? QStringLiteral("nothing") : result;
-        return result.isEmpty() ? answerer.seen : result + QStringLiteral(", asked ") + answerer.seen;
+        const QString asked = oneLine(boxes.seen.join(QLatin1Char('|'))) +
+                              (boxes.buttons == (QMessageBox::Yes | QMessageBox::No)
+                                   ? QStringLiteral(" (Yes, No)")
+                                   : QStringLiteral(" (%1)").arg(int(boxes.buttons)));
+        return result.isEmpty() ? asked : result + QStringLiteral(", asked ") + asked;
     } else if (word == QLatin1String("cancel")) {
         QTest::mouseClick(page->window()->findChild<QPushButton*>(QStringLiteral("cancel")), Qt::LeftButton);
     } else {
@@ -269,14 +217,15 @@ QString state(VKD_P_DesignParameter* page, int index, const QString& part, QSign
     const DesignParameterTable* table = tableOf(page);
     const QString key = part.section(QLatin1Char(' '), 0, 0);
     QStringList values;
-    if (key == QLatin1String("rows") || key == QLatin1String("types")) {
+    if (key == QLatin1String("rows")) {
+        for (int r = 0; r < table->rowCount(); ++r)
+            values << oneLine(table->item(r, 0)->text());
+        values = QStringList{values.join(QLatin1Char('|'))};
+    } else if (key == QLatin1String("types")) {
         for (int r = 0; r < table->rowCount(); ++r) {
             auto* type = dynamic_cast<VKD_H_TwSimpleComboBoxItem*>(table->item(r, 1));
-            values << (key == QLatin1String("rows") ? oneLine(table->item(r, 0)->text())
-                                                    : QString::number(type ? type->getCurrentId() : -1));
+            values << QString::number(type ? type->getCurrentId() : -1);
         }
-        if (key == QLatin1String("rows"))
-            values = QStringList{values.join(QLatin1Char('|'))};
     } else if (key == QLatin1String("current")) {
         values << QStringLiteral("%1,%2").arg(table->currentRow()).arg(table->currentColumn());
     } else if (key == QLatin1String("signals")) {
@@ -306,6 +255,13 @@ QString state(VKD_P_DesignParameter* page, int index, const QString& part, QSign
         values << said;
     }
     return key + QLatin1Char(' ') + values.join(QLatin1Char(' '));
+}
+
+QByteArray fileHash(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha256)
+                                       : QByteArray();
 }
 
 } // namespace
@@ -339,18 +295,8 @@ private slots:
 
         QSignalSpy rowCount(page, &VKD_P_DesignParameter::signal_rowCountChanged);
         QVERIFY(page->init());
-        QCOMPARE(page->findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly)->minimumWidth(), 890);
-        DesignParameterTable* table = tableOf(page);
-        QStringList columns;
-        for (int c = 0; c < table->columnCount(); ++c)
-            columns << QStringLiteral("%1 %2")
-                           .arg(table->horizontalHeaderItem(c)->text())
-                           .arg(table->columnWidth(c));
-        QCOMPARE(
-            columns.join(QLatin1Char('|')),
-            QStringLiteral(
-                "Selection 150|Type 150|Direction and Distance 200|Reinforcement 120|Crack Control 120"));
         page->readZob();
+        DesignParameterTable* table = tableOf(page);
         // Each summary shows two lines.
         QVERIFY(table->verticalHeader()->defaultSectionSize() > 2 * table->fontMetrics().lineSpacing());
         QCOMPARE(rowCount.count(), 1);
@@ -393,24 +339,20 @@ private slots:
     {
         QFETCH(QString, project);
         QFETCH(QStringList, steps);
-        Project files(project == QLatin1String("entries") || project == QLatin1String("host")
-                          ? QStringLiteral("demo")
-                          : project);
+        const bool host = project == QLatin1String("host"), entries = project == QLatin1String("entries");
+        Project files(host || entries ? QStringLiteral("demo") : project);
         VKD_H_ProjectDialogPage projectPage;
         std::unique_ptr<QWidget> window;
         VKD_P_DesignParameter* page = nullptr;
-        if (project == QLatin1String("host")) {
-            auto* host = new PlibHostDialog(files.doc.get());
-            window.reset(host);
-            page = host->designPage();
+        if (host) {
+            auto* dialog = new PlibHostDialog(files.doc.get());
+            window.reset(dialog);
+            page = dialog->designPage();
         } else {
             page = new VKD_P_DesignParameter(files.doc.get(), files.doc.get(), nullptr, false, false);
             window.reset(page);
             page->init();
-            if (project == QLatin1String("entries"))
-                page->getEntrys(projectPage);
-            else
-                page->readZob();
+            entries ? page->getEntrys(projectPage) : page->readZob();
         }
         window->resize(1400, 700);
         window->show();
@@ -437,9 +379,14 @@ private slots:
     void typeChangeKeepsTheOtherValues()
     {
         Project project(QStringLiteral("demo"));
-        auto page = openPage(project);
-        DesignParameterTable* table = tableOf(page.get());
+        VKD_P_DesignParameter page(project.doc.get(), project.doc.get(), nullptr, false, false);
+        page.init();
+        page.readZob();
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        DesignParameterTable* table = tableOf(&page);
         QVERIFY(matchesReference(tableText(table), QStringLiteral("demo-project.txt")));
+        QVERIFY(button(&page, QStringLiteral("btnNew"))->y() > table->y()); // the buttons below the table
         const QString threeLayers = table->item(3, 2)->text();
         QVERIFY(chooseType(table, 3, QStringLiteral("Two Layers")));
         QVERIFY(!table->item(3, 2)->text().contains(QStringLiteral("1.5 cm")));
@@ -467,9 +414,9 @@ private slots:
             QVERIFY(chooseType(table, 4, QStringLiteral("Two Layers (orthogonal)")));
             QVERIFY(chooseType(table, 5, QStringLiteral("Three Layers")));
             before = tableText(table);
-            BoxAnswerer answerer(QMessageBox::No);
+            BoxWatcher boxes(QMessageBox::No);
             QVERIFY(page.checkVals());
-            QCOMPARE(answerer.seen, QString());
+            QCOMPARE(boxes.seen, QStringList());
             page.setEntrys(projectPage);
         }
         QCOMPARE(projectPage.keys(), (QStringList{"MerPara1", "MerPara2"}));
@@ -481,22 +428,24 @@ private slots:
         VKD_P_DesignParameter again(project.doc.get(), project.doc.get(), nullptr, false, false);
         again.init();
         again.getEntrys(projectPage);
-        QCOMPARE(tableText(tableOf(&again)).mid(before.indexOf(QStringLiteral("row 4\n"))),
-                 before.mid(before.indexOf(QStringLiteral("row 4\n")))
-                     .replace(QStringLiteral("Ø10 ; -  ; -  / Ø10 ; -  ; - \n"),
-                              QStringLiteral("Ø10 ;0.00 cm²/m ;0.00 cm²/m / Ø10 ;0.00 cm²/m ;0.00 cm²/m\n")));
+        const int newRows = before.indexOf(QStringLiteral("row 4\n"));
+        QCOMPARE(tableText(tableOf(&again)).mid(newRows),
+                 before.mid(newRows).replace(
+                     QStringLiteral("Ø10 ; -  ; -  / Ø10 ; -  ; - \n"),
+                     QStringLiteral("Ø10 ;0.00 cm²/m ;0.00 cm²/m / Ø10 ;0.00 cm²/m ;0.00 cm²/m\n")));
     }
 
     // The help book opens on the page of the desktop's language.
     void help()
     {
         Project project;
-        auto page = openPage(project);
+        VKD_P_DesignParameter page(project.doc.get(), project.doc.get(), nullptr, false, false);
+        page.init();
         for (const auto& [language, file, heading] :
              {std::tuple{1, "merdan_para_en.html", "Design parameters"},
               {0, "merdan_para_de.html", "Bemessungsparameter"}}) {
             vkd_lib_setvalue(kSettingLanguage, language);
-            page->showHelp();
+            page.showHelp();
             QTextBrowser* text = nullptr;
             for (QWidget* w : QApplication::topLevelWidgets())
                 if (w->objectName() == QLatin1String("helpViewer") && w->isVisible())
@@ -542,12 +491,80 @@ private slots:
             QString::fromLocal8Bit(host.readAllStandardOutput() + host.readAllStandardError());
         QCOMPARE(host.exitStatus() == QProcess::NormalExit ? host.exitCode() : -1, exitCode);
         QVERIFY2(said.contains(output), qPrintable(said));
-        if (exitCode == 0) {
-            // The design page asks for 890 pixels at least; the dialog adds its frame.
-            const QImage picture(project.dir.filePath(QStringLiteral("shots/design.png")));
-            QVERIFY(picture.width() > 890 && picture.height() > 200);
-        }
+        QCOMPARE(QFile::exists(project.dir.filePath(QStringLiteral("shots/design.png"))), exitCode == 0);
         QCOMPARE(designRecords(project.index()), before);
+    }
+
+    void hostOkThatCannotSave_data()
+    {
+        QTest::addColumn<QString>("cause");
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("reason"); // empty: saved, no message
+        QTest::addColumn<QString>("closing");
+        const QString english =
+            QStringLiteral("Nothing was saved. The dialog stays open so that nothing you entered is lost.");
+        QTest::newRow("project opened for reading")
+            << "read-only" << 1 << "is open for reading only: it was opened for reading only." << english;
+        QTest::newRow("project opened for reading, German desktop")
+            << "read-only" << 0 << "is open for reading only: it was opened for reading only."
+            << "Es wurde nichts gespeichert. Der Dialog bleibt offen, damit nichts von Ihren Eingaben "
+               "verloren "
+               "geht.";
+        QTest::newRow("project held by another program")
+            << "held" << 1 << "is in use by another program, which still held it after 0.3 seconds."
+            << english;
+        QTest::newRow("writable project") << "writable" << 1 << ""
+                                          << "";
+    }
+
+    // OK of the host's dialog when the project cannot be written: one warning that names the
+    // file and the reason, the dialog stays open with what was typed, the project as it was.
+    void hostOkThatCannotSave()
+    {
+        QFETCH(QString, cause);
+        QFETCH(int, language);
+        QFETCH(QString, reason);
+        QFETCH(QString, closing);
+        Project files(QStringLiteral("demo"));
+        const QString file = files.doc->path();
+        const QByteArray before = designRecords(files.index());
+        files.doc.reset();
+        VKD_H_ZOBDoc project(file, cause == QLatin1String("read-only") ? VKD_H_ZOBDoc::ReadOnly
+                                                                       : VKD_H_ZOBDoc::OpenExisting);
+        project.setBusyTimeout(300);
+        QProcess holder;
+        if (cause == QLatin1String("held")) {
+            holder.start(QStringLiteral(ZOB_PROBE), {QStringLiteral("hold"), file, QStringLiteral("3000")});
+            QVERIFY(holder.waitForReadyRead(20000));
+        }
+        vkd_lib_setvalue(kSettingLanguage, language);
+        VKD_QT_InitTranslator hostTexts("plib_host");
+        PlibHostDialog dialog(&project);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        const QByteArray hash = fileHash(file);
+        const int rows = tableOf(dialog.designPage())->rowCount();
+        {
+            BoxWatcher boxes;
+            QTest::mouseClick(dialog.buttonRow()->cmdOk(), Qt::LeftButton);
+            vkd_lib_setvalue(kSettingLanguage, 1);
+            if (reason.isEmpty()) {
+                QCOMPARE(boxes.seen, QStringList());
+                QCOMPARE(dialog.isVisible() ? -1 : dialog.result(), int(QDialog::Accepted));
+                return;
+            }
+            QCOMPARE(boxes.seen, QStringList{dialog.windowTitle() +
+                                             QStringLiteral(": The project file %1 %2\n\n%3")
+                                                 .arg(QFileInfo(file).absoluteFilePath(), reason, closing)});
+            QCOMPARE(boxes.icon, QMessageBox::Warning);
+            QVERIFY(!boxes.busyCursor);
+        }
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(tableOf(dialog.designPage())->rowCount(), rows);
+        if (cause == QLatin1String("held"))
+            QVERIFY(holder.waitForFinished(20000));
+        QCOMPARE(designRecords(project.index()), before);
+        QCOMPARE(fileHash(file), hash);
     }
 };
 
