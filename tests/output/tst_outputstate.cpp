@@ -1,6 +1,7 @@
 #include "GraphicalOutputTreeWidget.h"
 #include "VKD_P_WidgetGraphicalOutput.h"
 #include "testsupport.h"
+#include "transcript.h"
 
 #include <AnimatorView.h>
 #include <VKD_H_BoxedLineEdit.h>
@@ -163,26 +164,20 @@ private slots:
         QCOMPARE(read.page->writeXMLstring(), xml);
     }
 
-    // Each rule of reading; see the reference file.
+    // Each rule of reading; see the reference file. The tree's choice stays when the string has
+    // no part for it.
     void readRules()
     {
-        QFile file(QStringLiteral(TEST_DATA_DIR "/readrules.txt"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QString out;
-        for (const QString& line : QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)) {
-            QString xml = line.section(QStringLiteral(" => "), 0, 0);
+        QVERIFY(matchesTranscript(QStringLiteral("readrules.txt"), [](QString xml) {
             const bool split = xml.startsWith(QLatin1String("split:"));
             Page p(split ? GraphicalOutputSplit : GraphicalOutputStandard);
             p.setDistinct();
             p.check(1, Qt::Unchecked);
             const QString checked = p.get<GraphicalOutputTreeWidget>()->selectionText();
             p.page->readXMLstring(xml.remove(QStringLiteral("split:")));
-            QCOMPARE(p.get<GraphicalOutputTreeWidget>()->selectionText(), checked);
-            out += line.startsWith('#')
-                       ? line + '\n'
-                       : line.section(QStringLiteral(" => "), 0, 0) + " => " + p.state() + '\n';
-        }
-        QVERIFY(matchesReference(out, QStringLiteral("readrules.txt")));
+            return p.state() +
+                   (p.get<GraphicalOutputTreeWidget>()->selectionText() == checked ? "" : " tree changed!");
+        }));
     }
 
     // The camera goes to the store and then to the preview, with or without a part of its own; one
