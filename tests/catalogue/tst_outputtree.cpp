@@ -220,41 +220,14 @@ private slots:
         QCOMPARE(shape(t.at({0, 0})), QStringLiteral("C1~(a+ b~(r1+ r2- r3+ r4-) c+(r1+ r2+ r3+ r4+))"));
     }
 
-    void applySelection_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("shape");
-        const QString none = "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) "
-                             "T3-(C3-(e-)) T4-(C5-(p- q-))";
-        QTest::newRow("empty text keeps the choice")
-            << "\n\n"
-            << "T1~(C1~(a+ b-(r1- r2- r3-) c+(r1+ r2+ r3+)) C4+(f+)) "
-               "T2+(C2+(d+ g+)) T3+(C3+(e+)) T4+(C5+(p+ q+))";
-        QTest::newRow("unknown identifier") << "Checked:@T09\n" << none;
-        QTest::newRow("top level carries down") << "Checked:@T02\n"
-                                                << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) "
-                                                   "T2+(C2+(d+ g+)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-        QTest::newRow("top level, then rows by number")
-            << "Checked:@T01\nPartially:@T01   @C01   @P02 : 3,\n"
-            << "T1~(C1~(a+ b~(r1- r2- r3+) c+(r1+ r2+ r3+)) C4+(f+)) "
-               "T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-        QTest::newRow("rows by number, one unknown")
-            << "Partially:@T01   @C01   @P02 : 3,7,\n"
-            << "T1~(C1~(a- b~(r1- r2- r3+) c-(r1- r2- r3-)) C4-(f-)) "
-               "T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-        QTest::newRow("plain captions find the last plot")
-            << "Checked:@T04   @C05    003\n"
-            << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4~(C5~(p- "
-               "q+))";
-    }
-
+    // A stored choice applied to a tree of the choice catalogue (data/applyselection.txt).
     void applySelection()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, shape);
-        Tree t(choiceCatalogue);
-        t.view->applySelection(text);
-        QCOMPARE(t.shape(), shape);
+        QVERIFY(matchesTranscript(QStringLiteral("applyselection.txt"), [](QString text) {
+            Tree t(choiceCatalogue);
+            t.view->applySelection(text.replace(QLatin1Char('/'), QLatin1Char('\n')));
+            return t.shape();
+        }));
     }
 
     // Rows show LF on a German desktop and LC on any other, plots their card; the dump shows the

@@ -4,7 +4,6 @@
 #include "demomodel.h"
 #include "pagespliticons.h"
 #include "testsupport.h"
-#include "transcript.h"
 
 #include <VKD_H_BoxedLineEdit.h>
 #include <VKD_H_PluginParameter.h>

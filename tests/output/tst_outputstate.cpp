@@ -1,7 +1,6 @@
 #include "GraphicalOutputTreeWidget.h"
 #include "VKD_P_WidgetGraphicalOutput.h"
 #include "testsupport.h"
-#include "transcript.h"
 
 #include <AnimatorView.h>
 #include <VKD_H_BoxedLineEdit.h>
