@@ -1,95 +1,19 @@
-#include "GraphicalOutputTreeWidget.h"
-#include "VKD_P_WidgetGraphicalOutput.h"
-#include "catalogue.h"
-#include "demomodel.h"
+#include "pagefixture.h"
 #include "pagespliticons.h"
-#include "testsupport.h"
 
-#include <VKD_H_BoxedLineEdit.h>
-#include <VKD_H_PluginParameter.h>
 #include <VKD_H_TableWidget.h>
 #include <VKD_H_TwSimpleItems.h>
-#include <VKD_H_ZOBDoc.h>
-#include <VKD_QT4_ComboBox.h>
-#include <VKD_QT_CheckBox.h>
-#include <VKD_QT_RadioButtonGroup.h>
-#include <vkd_dbo.h>
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTranslator>
 #include <QtTest>
-
-#include <memory>
 
 using namespace vkd::plib::widgetgraphicaloutput;
 
 namespace {
-
-// A catalogue line of the standard and split pages with the script "BILD x" / "PICT x".
-QByteArray rec(const char* title3, const char* tag = "All", const char* cases = "none", int preselect = 0)
-{
-    return QStringLiteral("1|122|0|T|C|%1|%2|0|%3|%4|3| |0|BILD %1|PICT %1\n")
-        .arg(QLatin1String(title3), QLatin1String(tag), QLatin1String(cases), QString::number(preselect))
-        .toUtf8();
-}
-
-void useCatalogue()
-{
-    catalogueList() = parseText(rec("a", "All", "last-l", 1) + rec("b") + rec("iso", "Quad"));
-    catalogueLanguage = vkd_lib_getvalue(102);
-}
-
-// Models of a page's project: none, one bric, the demo project.
-enum Model : int
-{
-    NoModel = 0,
-    OneBric = vkd::dbo::KeyBricks,
-    Demo = -1
-};
-
-// A page on a project in a temporary folder, empty or with a model.
-struct Page
-{
-    explicit Page(int progname = GraphicalOutputStandard, int model = NoModel)
-        : doc(dir.filePath(QStringLiteral("demo.vkd"))), parameter(&doc)
-    {
-        if (model > 0)
-            vkd::dbo::writeAll<vkd::dbo::ElementRecord>(doc.index(), model, {{1, 1, {1, 2, 3, 4}}});
-        if (model == Demo)
-            writeDemoModel(doc.index());
-        page = std::make_unique<VKD_P_WidgetGraphicalOutput>(
-            nullptr, static_cast<VKD_P_WidgetGraphicalOutput_Progname>(progname), &parameter, nullptr);
-    }
-    template <typename T> T* get(const char* name) const
-    {
-        return page->findChild<T*>(QString::fromLatin1(name));
-    }
-    VKD_QT_RadioButtonGroup* group(const char* name) const { return get<VKD_QT_RadioButtonGroup>(name); }
-    GraphicalOutputTreeWidget* tree() const { return get<GraphicalOutputTreeWidget>("m_list"); }
-    QTreeWidgetItem* plot() const { return tree()->topLevelItem(0)->child(0)->child(0); }
-    // "number=label+;...": the rows of the first plot as the tree holds them, "+" if checked.
-    QString rows() const
-    {
-        QStringList out;
-        for (int i = 0; i < plot()->childCount(); ++i) {
-            auto* row = static_cast<GraphicalOutputTreeWidgetItem*>(plot()->child(i));
-            out << QStringLiteral("%1=%2%3")
-                       .arg(row->number)
-                       .arg(row->text(0), row->checkState(0) ? "+" : "");
-        }
-        return out.join(QLatin1Char(';'));
-    }
-
-    QTemporaryDir dir;
-    VKD_H_ZOBDoc doc;
-    VKD_H_PluginParameter parameter;
-    std::unique_ptr<VKD_P_WidgetGraphicalOutput> page;
-};
 
 QString greyed(const QWidget* w)
 {
@@ -140,7 +64,6 @@ class TestOutputPage : public QObject
 {
     Q_OBJECT
 private slots:
-    void init() { useCatalogue(); }
     void widgets_data();
     void widgets();
     void defaultSettings();
@@ -172,7 +95,6 @@ void TestOutputPage::widgets()
     QFETCH(int, language);
     QFETCH(QString, reference);
     LanguageScope scope(language);
-    useCatalogue();
     QTranslator translator;
     QVERIFY(translator.load(QStringLiteral(TRANSLATIONS)));
     if (language == 0)
@@ -192,25 +114,25 @@ void TestOutputPage::defaultSettings()
     QVERIFY(fill->isEnabled());
     p.page->setUsedNumbersAndNames({{1, 1, "r1"}, {1, 2, "r2"}});
     auto* scale = p.get<VKD_QT4_ComboBox>("box_scale");
-    p.group("ScaleGroup")->getRadioButton(0)->click();
+    p.get("ScaleGroup")->getRadioButton(0)->click();
     scale->setCurrentIndex(scale->findText(QStringLiteral("1:100")));
-    p.group("FormatGroup")->getRadioButton(1)->click();
+    p.get("FormatGroup")->getRadioButton(1)->click();
     fill->setChecked(true);
     p.get<VKD_H_BoxedLineEdit>("m_boxedEdit")->setText(QStringLiteral("4"));
-    p.group("PerspectiveGroup")->setButton(0);
+    p.get("PerspectiveGroup")->setButton(0);
     p.plot()->child(1)->setCheckState(0, Qt::Checked);
     QCOMPARE(p.rows(), QStringLiteral("1=r1+;2=r2+"));
 
     p.get<QPushButton>("Button: Default settings")->click();
     const QString groups = QStringLiteral("%1 %2 %3 %4 %5")
-                               .arg(p.group("ScaleGroup")->selectedButton())
-                               .arg(p.group("FormatGroup")->selectedButton())
-                               .arg(p.group("PicturesGroup")->selectedButton())
-                               .arg(p.group("PerspectiveGroup")->selectedButton())
+                               .arg(p.get("ScaleGroup")->selectedButton())
+                               .arg(p.get("FormatGroup")->selectedButton())
+                               .arg(p.get("PicturesGroup")->selectedButton())
+                               .arg(p.get("PerspectiveGroup")->selectedButton())
                                .arg(fill->isChecked());
     QCOMPARE(groups, QStringLiteral("1 0 1 3 0"));
     QCOMPARE(scale->currentText(), QStringLiteral("1:100"));
-    QVERIFY(p.group("PicturesGroup")->isEnabled());
+    QVERIFY(p.get("PicturesGroup")->isEnabled());
     QCOMPARE(p.page->getTORVAL_SCHR(true), QStringLiteral("SCHH H6 0.2"));
     QCOMPARE(p.rows(), QStringLiteral("1=r1+;2=r2"));
 }
@@ -222,13 +144,13 @@ void TestOutputPage::splitVariant()
     Page p(GraphicalOutputSplit);
     auto* scale = p.get<VKD_QT4_ComboBox>("box_scale");
     p.get<VKD_QT4_ComboBox>("COMBO_PAGESPLITTING")->setCurrentIndex(1);
-    p.group("ScaleGroup")->getRadioButton(0)->click();
+    p.get("ScaleGroup")->getRadioButton(0)->click();
     scale->setCurrentIndex(scale->findText(QStringLiteral("1:100")));
     QCOMPARE(p.page->getTORVAL(QStringLiteral("+ADD"), true),
              QStringLiteral("SIZE TYPE \"-URS\" SC 100 SPLI 2X1|SIZE TYPE \"-URS\" $(XYZ) SPLI 2X1+ADD\n"));
     QCOMPARE(p.page->getTORVAL_SIZE(true), QStringLiteral("SIZE URS SC 100*1.e+10 MARG NO FORM STAN"));
     p.tree()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
-    QVERIFY(QMetaObject::invokeMethod(p.page.get(), "slotQuerFormat"));
+    QVERIFY(QMetaObject::invokeMethod(p.page, "slotQuerFormat"));
     p.page->slotDefaultSettings();
     QCOMPARE(p.page->getTORVAL(false),
              QStringLiteral("SIZE DINA \"-URS\" M 0 TEIL 2X1|SIZE DINA \"-URS\" $(XYZ) TEIL 2X1"));
@@ -273,11 +195,11 @@ void TestOutputPage::settingsReachScript()
                 emit edit->editingFinished();
             } else if (word == QLatin1String("row")) {
                 p.get<VKD_QT4_ComboBox>("box_scale")->setCurrentIndex(value.toInt());
-            } else if (auto* group = p.group(qPrintable(word))) {
+            } else if (auto* group = p.get(qPrintable(word))) {
                 group->getRadioButton(value.toInt())->click();
             }
         }
-        auto* pictures = p.group("PicturesGroup");
+        auto* pictures = p.get("PicturesGroup");
         const QString script = p.page->getTORVAL(true);
         return QStringLiteral("%1%2 | %3 | %4 | %5 | %6")
             .arg(pictures->selectedButton())
@@ -323,7 +245,7 @@ void TestOutputPage::tableRows()
         }
         VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
         binding.reset();
-        binding.setWidgets(p.page.get(), &widget, 1, checkColumn, titleColumn);
+        binding.setWidgets(p.page, &widget, 1, checkColumn, titleColumn);
         const QString before = p.rows();
         binding.reset();
         return (before == "99=old+" ? "" : "rows before reset! ") + p.rows();
@@ -343,7 +265,7 @@ void TestOutputPage::tableChanges()
         widget.setItem(r, 3, new QTableWidgetItem(QStringLiteral("other")));
     }
     VKD_P_WidgetGraphicalOutput_TableWidgetData binding;
-    binding.setWidgets(p.page.get(), &widget, 1, 0, 2);
+    binding.setWidgets(p.page, &widget, 1, 0, 2);
     QSignalSpy rebuilds(p.tree()->model(), &QAbstractItemModel::modelReset);
     binding.reset();
     p.page->setUsedNumbersAndNames({{1, 7, "other"}});
@@ -376,7 +298,7 @@ void TestOutputPage::additionalTag()
                                   "host", Qt::Vertical, -1);
     VKD_P_WidgetGraphicalOutput_AdditionalData tag;
     group.getRadioButton(1)->click();
-    tag.setWidget(p.page.get(), &group, QStringLiteral("Quad"), 1);
+    tag.setWidget(p.page, &group, QStringLiteral("Quad"), 1);
     QStringList plots{QString::number(p.plot()->parent()->childCount())};
     for (int click : {1, 1, 2, 1, 0}) {
         group.getRadioButton(click)->click();
@@ -394,8 +316,6 @@ void TestOutputPage::additionalTag()
 // load cases, in both keyword languages.
 void TestOutputPage::demoProject()
 {
-    catalogueList().clear();
-    catalogueLanguage = -1;
     Page p(GraphicalOutputStandard, Demo);
     QVERIFY(p.get<VKD_QT_CheckBox>("Check: Filled Isolines")->isEnabled());
     std::vector<LoadcaseInformation> rows;
