@@ -1,15 +1,11 @@
 #include "GraphicalOutputTreeWidget.h"
 #include "catalogue.h"
-#include "demomodel.h"
 #include "outputtreeicons.h"
 #include "testsupport.h"
 
 #include <VKD_H_PluginParameter.h>
-#include <VKD_H_ZOBDoc.h>
-#include <vkd_dbo.h>
 
 #include <QApplication>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <memory>
@@ -38,18 +34,6 @@ inline QString shape(const QTreeWidget& tree)
     for (int i = 0; i < tree.topLevelItemCount(); ++i)
         tops << shape(tree.topLevelItem(i));
     return tops.join(QLatin1Char(' '));
-}
-
-// One line for each caption and each plot with its rows, indented by level.
-inline QString listing(const QTreeWidgetItem* item, int level = 0)
-{
-    const QString indent(2 * level, QLatin1Char(' '));
-    if (level == 2)
-        return indent + shape(item) + QLatin1Char('\n');
-    QString out = indent + item->text(0) + QLatin1String("-~+").at(item->checkState(0)) + QLatin1Char('\n');
-    for (int i = 0; i < item->childCount(); ++i)
-        out += listing(item->child(i), level + 1);
-    return out;
 }
 
 // A catalogue line offered on pages 1 and 122 whatever the model holds. A caption "@Xnn text"
@@ -247,31 +231,6 @@ private slots:
                          plotIcon().pixmap(16, 15).toImage());
             QVERIFY(matchesReference(t.view->dumpText(), QStringLiteral("dump.txt")));
         }
-    }
-
-    // The shipped catalogue on the results page of the demo project in its default choice, with the
-    // project's load cases as rows (design combinations as rows of design cases). Its script lines
-    // are those of the page's script on the demo project.
-    void demoProject()
-    {
-        QTemporaryDir dir;
-        VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("demo.vkd")));
-        QVERIFY(doc.isValid());
-        writeDemoModel(doc.index());
-        std::vector<LoadcaseInformation> rows;
-        for (const auto& lc :
-             vkd::dbo::readAll<vkd::dbo::LoadCaseRecord>(doc.index(), vkd::dbo::KeyLoadCases))
-            rows.push_back({lc.kind == 4 ? 2 : 1, lc.number,
-                            QStringLiteral("%1 : %2").arg(lc.number).arg(QString::fromUtf8(lc.title))});
-        catalogueList().clear();
-        catalogueLanguage = -1;
-        VKD_H_PluginParameter parameter(&doc);
-        GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-        tree.setUsedNumbersAndNames(rows);
-        QString text;
-        for (int i = 0; i < tree.topLevelItemCount(); ++i)
-            text += listing(tree.topLevelItem(i));
-        QVERIFY(matchesReference(text, QStringLiteral("demo-tree.txt")));
     }
 };
 

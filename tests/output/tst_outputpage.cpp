@@ -110,31 +110,14 @@ void TestOutputPage::widgets()
 void TestOutputPage::defaultSettings()
 {
     Page p(GraphicalOutputStandard, OneBric);
-    auto* fill = p.get<VKD_QT_CheckBox>("Check: Filled Isolines");
-    QVERIFY(fill->isEnabled());
+    QVERIFY(p.get<VKD_QT_CheckBox>("Check: Filled Isolines")->isEnabled());
     p.page->setUsedNumbersAndNames({{1, 1, "r1"}, {1, 2, "r2"}});
-    auto* scale = p.get<VKD_QT4_ComboBox>("box_scale");
-    p.get("ScaleGroup")->getRadioButton(0)->click();
-    scale->setCurrentIndex(scale->findText(QStringLiteral("1:100")));
-    p.get("FormatGroup")->getRadioButton(1)->click();
-    fill->setChecked(true);
-    p.get<VKD_H_BoxedLineEdit>("m_boxedEdit")->setText(QStringLiteral("4"));
-    p.get("PerspectiveGroup")->setButton(0);
+    p.setDistinct();
     p.plot()->child(1)->setCheckState(0, Qt::Checked);
-    QCOMPARE(p.rows(), QStringLiteral("1=r1+;2=r2+"));
-
+    QCOMPARE(p.state() + ' ' + p.rows(), QStringLiteral("0 1:100 3 1 1 0~ 1 - 1=r1+;2=r2+"));
     p.get<QPushButton>("Button: Default settings")->click();
-    const QString groups = QStringLiteral("%1 %2 %3 %4 %5")
-                               .arg(p.get("ScaleGroup")->selectedButton())
-                               .arg(p.get("FormatGroup")->selectedButton())
-                               .arg(p.get("PicturesGroup")->selectedButton())
-                               .arg(p.get("PerspectiveGroup")->selectedButton())
-                               .arg(fill->isChecked());
-    QCOMPARE(groups, QStringLiteral("1 0 1 3 0"));
-    QCOMPARE(scale->currentText(), QStringLiteral("1:100"));
-    QVERIFY(p.get("PicturesGroup")->isEnabled());
+    QCOMPARE(p.state() + ' ' + p.rows(), QStringLiteral("1 1:100 2 0 0 1 3 - 1=r1+;2=r2"));
     QCOMPARE(p.page->getTORVAL_SCHR(true), QStringLiteral("SCHH H6 0.2"));
-    QCOMPARE(p.rows(), QStringLiteral("1=r1+;2=r2"));
 }
 
 // The split page passes over the widgets it lacks, keeps its sheet division through the
