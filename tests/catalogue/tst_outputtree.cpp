@@ -38,12 +38,12 @@ inline QString shape(const QTreeWidget& tree)
 
 // A catalogue line offered on pages 1 and 122 whatever the model holds. A caption "@Xnn text"
 // shows text and has the identifier @Xnn; the script "EMPTY" stands for none.
-QByteArray rec(const char* title1, const char* title2, const char* title3, const char* cases = "none",
-               int preselect = 0, int view = 0, const char* tag = "All", const char* script = "S")
+QByteArray rec(const QString& title1, const QString& title2, const QString& title3,
+               const QString& cases = "none", int preselect = 0, int view = 0, const QString& tag = "All",
+               const QString& script = "S")
 {
     return QStringLiteral("1|122|0|%1|%2|%3|%4|0|%5|%6|%7| |0|BILD %8|PICT %8\n")
-        .arg(QLatin1String(title1), QLatin1String(title2), QLatin1String(title3), QLatin1String(tag),
-             QLatin1String(cases), QString::number(preselect), QString::number(view), QLatin1String(script))
+        .arg(title1, title2, title3, tag, cases, QString::number(preselect), QString::number(view), script)
         .toUtf8();
 }
 
@@ -92,36 +92,18 @@ class TestOutputTree : public QObject
 
 private slots:
 
-    void shapes_data()
-    {
-        QTest::addColumn<QByteArray>("catalogue");
-        QTest::addColumn<QString>("shape");
-        QTest::newRow("shared captions, same plot twice")
-            << rec("T", "C", "a") + rec("T", "C", "b") + rec("T", "C", "b") << "T+(C+(a+ b+ b+))";
-        QTest::newRow("plot with its parent's caption takes later records")
-            << rec("T", "C", "C", "last-l") + rec("T", "C", "b", "last-l", 1)
-            << "T~(C~(C~(r1+ r2- r3- r1- r2- r3-)))";
-        QTest::newRow("captions in order of first appearance")
-            << rec("T", "C", "a") + rec("U", "D", "b") + rec("T", "E", "c") + rec("T", "C", "d")
-            << "T+(C+(a+ d+) E+(c+)) U+(D+(b+))";
-        QTest::newRow("first row by default")
-            << rec("T", "C", "a", "last-l", 1) + rec("T", "C", "b") << "T~(C~(a~(r1+ r2- r3-) b+))";
-        QTest::newRow("combinations take the load case rows")
-            << rec("T", "C", "a", "supp-c") << "T-(C-(a-(r1- r2- r3-)))";
-        QTest::newRow("design cases take the rows of kind 2")
-            << rec("T", "C", "a", "desi-e", 2) << "T+(C+(a+(e1+)))";
-        QTest::newRow("plot without script goes")
-            << rec("T", "C", "a", "none", 0, 0, "All", "EMPTY") << "T-(C-)";
-        QTest::newRow("absent content")
-            << rec("T", "C", "a", "none", 0, 0, "Quad") << "No Entries in database!";
-        QTest::newRow("empty caption") << rec("T", "C", "@ND1") << "No Entries in database!";
-    }
-
+    // The tree that a catalogue makes (data/shapes.txt).
     void shapes()
     {
-        QFETCH(QByteArray, catalogue);
-        QFETCH(QString, shape);
-        QCOMPARE(Tree(catalogue).shape(), shape);
+        QVERIFY(matchesTranscript(QStringLiteral("shapes.txt"), [](const QString& line) {
+            QByteArray catalogue;
+            for (const QString& record : line.split(QLatin1Char(';'))) {
+                const QStringList w = record.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+                catalogue += rec(w.value(0), w.value(1), w.value(2), w.value(3, "none"), w.value(4).toInt(),
+                                 w.value(5).toInt(), w.value(6, "All"), w.value(7, "S"));
+            }
+            return Tree(catalogue).shape();
+        }));
     }
 
     // Declared tags bring their plots in, as often as declared, and go all at once; such a rebuild
@@ -145,6 +127,14 @@ private slots:
         QCOMPARE(t.shape(), chosen);
         t.view->setUsedNumbersAndNames({{1, 1, "r1"}});
         QCOMPARE(t.shape(), QStringLiteral("T~(C~(a+ b-(r1-)))"));
+        // Unchecked from the top, then checked item by item: the items above are checked again. The
+        // first plot is found by its identifier.
+        t.at({0})->setCheckState(0, Qt::Unchecked);
+        t.at({0, 0, 0})->setCheckState(0, Qt::Checked);
+        t.at({0, 0, 1, 0})->setCheckState(0, Qt::Checked);
+        QCOMPARE(t.shape(), QStringLiteral("T+(C+(a+ b+(r1+)))"));
+        QCOMPARE(static_cast<QTreeWidgetItem*>(t.view->findItem(QStringLiteral("@T01   @C01   @P01"))),
+                 t.at({0, 0, 0}));
     }
 
     void scriptLines_data()
