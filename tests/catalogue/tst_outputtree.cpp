@@ -127,12 +127,12 @@ private slots:
         QCOMPARE(t.shape(), chosen);
         t.view->setUsedNumbersAndNames({{1, 1, "r1"}});
         QCOMPARE(t.shape(), QStringLiteral("T~(C~(a+ b-(r1-)))"));
-        // Unchecked from the top, then checked item by item: the items above are checked again. The
+        // Unchecked from the top, a row checked and unchecked again: all above it is unchecked. The
         // first plot is found by its identifier.
         t.at({0})->setCheckState(0, Qt::Unchecked);
-        t.at({0, 0, 0})->setCheckState(0, Qt::Checked);
         t.at({0, 0, 1, 0})->setCheckState(0, Qt::Checked);
-        QCOMPARE(t.shape(), QStringLiteral("T+(C+(a+ b+(r1+)))"));
+        t.at({0, 0, 1, 0})->setCheckState(0, Qt::Unchecked);
+        QCOMPARE(t.shape(), QStringLiteral("T-(C-(a- b-(r1-)))"));
         QCOMPARE(static_cast<QTreeWidgetItem*>(t.view->findItem(QStringLiteral("@T01   @C01   @P01"))),
                  t.at({0, 0, 0}));
     }
