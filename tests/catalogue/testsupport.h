@@ -1,8 +1,9 @@
 #pragma once
-// Helpers shared by the catalogue and output tree tests.
+// Helpers shared by the catalogue, output tree and output page tests.
 
 #include "catalogue.h"
 #include "reference.h"
+#include "transcript.h"
 
 #include <vkd_q.h>
 

@@ -1,15 +1,11 @@
 #include "GraphicalOutputTreeWidget.h"
 #include "catalogue.h"
-#include "demomodel.h"
 #include "outputtreeicons.h"
 #include "testsupport.h"
 
 #include <VKD_H_PluginParameter.h>
-#include <VKD_H_ZOBDoc.h>
-#include <vkd_dbo.h>
 
 #include <QApplication>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <memory>
@@ -40,26 +36,14 @@ inline QString shape(const QTreeWidget& tree)
     return tops.join(QLatin1Char(' '));
 }
 
-// One line for each caption and each plot with its rows, indented by level.
-inline QString listing(const QTreeWidgetItem* item, int level = 0)
-{
-    const QString indent(2 * level, QLatin1Char(' '));
-    if (level == 2)
-        return indent + shape(item) + QLatin1Char('\n');
-    QString out = indent + item->text(0) + QLatin1String("-~+").at(item->checkState(0)) + QLatin1Char('\n');
-    for (int i = 0; i < item->childCount(); ++i)
-        out += listing(item->child(i), level + 1);
-    return out;
-}
-
 // A catalogue line offered on pages 1 and 122 whatever the model holds. A caption "@Xnn text"
 // shows text and has the identifier @Xnn; the script "EMPTY" stands for none.
-QByteArray rec(const char* title1, const char* title2, const char* title3, const char* cases = "none",
-               int preselect = 0, int view = 0, const char* tag = "All", const char* script = "S")
+QByteArray rec(const QString& title1, const QString& title2, const QString& title3,
+               const QString& cases = "none", int preselect = 0, int view = 0, const QString& tag = "All",
+               const QString& script = "S")
 {
     return QStringLiteral("1|122|0|%1|%2|%3|%4|0|%5|%6|%7| |0|BILD %8|PICT %8\n")
-        .arg(QLatin1String(title1), QLatin1String(title2), QLatin1String(title3), QLatin1String(tag),
-             QLatin1String(cases), QString::number(preselect), QString::number(view), QLatin1String(script))
+        .arg(title1, title2, title3, tag, cases, QString::number(preselect), QString::number(view), script)
         .toUtf8();
 }
 
@@ -108,36 +92,18 @@ class TestOutputTree : public QObject
 
 private slots:
 
-    void shapes_data()
-    {
-        QTest::addColumn<QByteArray>("catalogue");
-        QTest::addColumn<QString>("shape");
-        QTest::newRow("shared captions, same plot twice")
-            << rec("T", "C", "a") + rec("T", "C", "b") + rec("T", "C", "b") << "T+(C+(a+ b+ b+))";
-        QTest::newRow("plot with its parent's caption takes later records")
-            << rec("T", "C", "C", "last-l") + rec("T", "C", "b", "last-l", 1)
-            << "T~(C~(C~(r1+ r2- r3- r1- r2- r3-)))";
-        QTest::newRow("captions in order of first appearance")
-            << rec("T", "C", "a") + rec("U", "D", "b") + rec("T", "E", "c") + rec("T", "C", "d")
-            << "T+(C+(a+ d+) E+(c+)) U+(D+(b+))";
-        QTest::newRow("first row by default")
-            << rec("T", "C", "a", "last-l", 1) + rec("T", "C", "b") << "T~(C~(a~(r1+ r2- r3-) b+))";
-        QTest::newRow("combinations take the load case rows")
-            << rec("T", "C", "a", "supp-c") << "T-(C-(a-(r1- r2- r3-)))";
-        QTest::newRow("design cases take the rows of kind 2")
-            << rec("T", "C", "a", "desi-e", 2) << "T+(C+(a+(e1+)))";
-        QTest::newRow("plot without script goes")
-            << rec("T", "C", "a", "none", 0, 0, "All", "EMPTY") << "T-(C-)";
-        QTest::newRow("absent content")
-            << rec("T", "C", "a", "none", 0, 0, "Quad") << "No Entries in database!";
-        QTest::newRow("empty caption") << rec("T", "C", "@ND1") << "No Entries in database!";
-    }
-
+    // The tree that a catalogue makes (data/shapes.txt).
     void shapes()
     {
-        QFETCH(QByteArray, catalogue);
-        QFETCH(QString, shape);
-        QCOMPARE(Tree(catalogue).shape(), shape);
+        QVERIFY(matchesTranscript(QStringLiteral("shapes.txt"), [](const QString& line) {
+            QByteArray catalogue;
+            for (const QString& record : line.split(QLatin1Char(';'))) {
+                const QStringList w = record.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+                catalogue += rec(w.value(0), w.value(1), w.value(2), w.value(3, "none"), w.value(4).toInt(),
+                                 w.value(5).toInt(), w.value(6, "All"), w.value(7, "S"));
+            }
+            return Tree(catalogue).shape();
+        }));
     }
 
     // Declared tags bring their plots in, as often as declared, and go all at once; such a rebuild
@@ -161,6 +127,14 @@ private slots:
         QCOMPARE(t.shape(), chosen);
         t.view->setUsedNumbersAndNames({{1, 1, "r1"}});
         QCOMPARE(t.shape(), QStringLiteral("T~(C~(a+ b-(r1-)))"));
+        // Unchecked from the top, a row checked and unchecked again: all above it is unchecked. The
+        // first plot is found by its identifier.
+        t.at({0})->setCheckState(0, Qt::Unchecked);
+        t.at({0, 0, 1, 0})->setCheckState(0, Qt::Checked);
+        t.at({0, 0, 1, 0})->setCheckState(0, Qt::Unchecked);
+        QCOMPARE(t.shape(), QStringLiteral("T-(C-(a- b-(r1-)))"));
+        QCOMPARE(static_cast<QTreeWidgetItem*>(t.view->findItem(QStringLiteral("@T01   @C01   @P01"))),
+                 t.at({0, 0, 0}));
     }
 
     void scriptLines_data()
@@ -220,49 +194,20 @@ private slots:
         QCOMPARE(shape(t.at({0, 0})), QStringLiteral("C1~(a+ b~(r1+ r2- r3+ r4-) c+(r1+ r2+ r3+ r4+))"));
     }
 
-    void applySelection_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("shape");
-        const QString none = "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) "
-                             "T3-(C3-(e-)) T4-(C5-(p- q-))";
-        QTest::newRow("empty text keeps the choice")
-            << "\n\n"
-            << "T1~(C1~(a+ b-(r1- r2- r3-) c+(r1+ r2+ r3+)) C4+(f+)) "
-               "T2+(C2+(d+ g+)) T3+(C3+(e+)) T4+(C5+(p+ q+))";
-        QTest::newRow("unknown identifier") << "Checked:@T09\n" << none;
-        QTest::newRow("top level carries down") << "Checked:@T02\n"
-                                                << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) "
-                                                   "T2+(C2+(d+ g+)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-        QTest::newRow("top level, then rows by number")
-            << "Checked:@T01\nPartially:@T01   @C01   @P02 : 3,\n"
-            << "T1~(C1~(a+ b~(r1- r2- r3+) c+(r1+ r2+ r3+)) C4+(f+)) "
-               "T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-        QTest::newRow("rows by number, one unknown")
-            << "Partially:@T01   @C01   @P02 : 3,7,\n"
-            << "T1~(C1~(a- b~(r1- r2- r3+) c-(r1- r2- r3-)) C4-(f-)) "
-               "T2-(C2-(d- g-)) T3-(C3-(e-)) T4-(C5-(p- q-))";
-        QTest::newRow("plain captions find the last plot")
-            << "Checked:@T04   @C05    003\n"
-            << "T1-(C1-(a- b-(r1- r2- r3-) c-(r1- r2- r3-)) C4-(f-)) T2-(C2-(d- g-)) T3-(C3-(e-)) T4~(C5~(p- "
-               "q+))";
-    }
-
+    // A stored choice applied to a tree of the choice catalogue (data/applyselection.txt).
     void applySelection()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, shape);
-        Tree t(choiceCatalogue);
-        t.view->applySelection(text);
-        QCOMPARE(t.shape(), shape);
+        QVERIFY(matchesTranscript(QStringLiteral("applyselection.txt"), [](QString text) {
+            Tree t(choiceCatalogue);
+            t.view->applySelection(text.replace(QLatin1Char('/'), QLatin1Char('\n')));
+            return t.shape();
+        }));
     }
 
     // Rows show LF on a German desktop and LC on any other, plots their card; the dump shows the
     // identifiers and the first row of a plot.
     void iconsAndDump()
     {
-        QCOMPARE(plotIcon().availableSizes(), QList<QSize>{QSize(16, 15)});
-        QCOMPARE(closeIcon().availableSizes(), QList<QSize>{QSize(16, 16)});
         for (int language : {0, 1}) {
             LanguageScope scope(language);
             Tree t(rec("@T01 T", "C", "a", "last-l") + rec("@T01 T", "C", "b"));
@@ -275,39 +220,6 @@ private slots:
                 QCOMPARE(t.at({0, 0, plot})->icon(0).pixmap(16, 15).toImage(),
                          plotIcon().pixmap(16, 15).toImage());
             QVERIFY(matchesReference(t.view->dumpText(), QStringLiteral("dump.txt")));
-        }
-    }
-
-    // The shipped catalogue on the results page of the demo project in its default choice, with the
-    // project's load cases as rows (design combinations as rows of design cases).
-    void demoProject()
-    {
-        QTemporaryDir dir;
-        VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("demo.vkd")));
-        QVERIFY(doc.isValid());
-        writeDemoModel(doc.index());
-        std::vector<LoadcaseInformation> rows;
-        for (const auto& lc :
-             vkd::dbo::readAll<vkd::dbo::LoadCaseRecord>(doc.index(), vkd::dbo::KeyLoadCases))
-            rows.push_back({lc.kind == 4 ? 2 : 1, lc.number,
-                            QStringLiteral("%1 : %2").arg(lc.number).arg(QString::fromUtf8(lc.title))});
-        catalogueList().clear();
-        catalogueLanguage = -1;
-        VKD_H_PluginParameter parameter(&doc);
-        GraphicalOutputTreeWidget tree(nullptr, 1, &parameter, "m_list");
-        tree.setUsedNumbersAndNames(rows);
-        QString text;
-        for (int i = 0; i < tree.topLevelItemCount(); ++i)
-            text += listing(tree.topLevelItem(i));
-        QVERIFY(matchesReference(text, QStringLiteral("demo-tree.txt")));
-        for (bool english : {true, false}) {
-            std::vector<QString> lines;
-            tree.collectScriptLines(lines, english);
-            text.clear();
-            for (const QString& line : lines)
-                text += line + QLatin1Char('\n');
-            QVERIFY(matchesReference(text, english ? QStringLiteral("demo-lines-en.txt")
-                                                   : QStringLiteral("demo-lines-de.txt")));
         }
     }
 };
