@@ -72,7 +72,7 @@ PlibHostDialog::PlibHostDialog(VKD_H_ZOBDoc* project, bool englishKeywords, QWid
                                   englishKeywords, this);
     auto* splitter = new QSplitter(Qt::Horizontal, this);
     splitter->setObjectName(QStringLiteral("hostSplitter"));
-    layout()->replaceWidget(tabWidget(), splitter);
+    delete layout()->replaceWidget(tabWidget(), splitter); // the tab widget's old place in the layout
     splitter->addWidget(tabWidget());
     splitter->addWidget(m_preview);
     splitter->setStretchFactor(0, 3);

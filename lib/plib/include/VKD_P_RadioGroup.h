@@ -53,7 +53,8 @@ public:
     // read getSelectedId when the value is needed.
     void initEchoOutput(QWidget* parent);
 
-    // The row, without a parent until the host adds it to its own layout; null before init.
+    // The row, without a parent until the host adds it to its own layout; null before init. A row
+    // that no layout or widget took is deleted with the group.
     QLayout* layout() const;
     // Couples the widget (not owned) and connects the buttons; calling it again connects them
     // again. A QtTableView is made read-only, any other widget disabled, unless id 1 is checked.

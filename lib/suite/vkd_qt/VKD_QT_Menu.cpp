@@ -37,9 +37,16 @@ VKD_QT_Menu::VKD_QT_Menu(const QString& title, QWidget* parent)
 {
 }
 
-VKD_QT_Action* VKD_QT_Menu::addAction(const QString& text, const QObject* receiver, const char* member)
+VKD_QT_Action* VKD_QT_Menu::addAction(const QString& text)
+{
+    return addAction(text, nullptr, nullptr);
+}
+
+VKD_QT_Action* VKD_QT_Menu::addAction(const QString& text, const QObject* receiver, const char* member,
+                                      const QKeySequence& shortcut)
 {
     auto* action = new VKD_QT_Action(text, this);
+    action->setShortcut(shortcut);
     if (receiver && member)
         connect(action, SIGNAL(triggered()), receiver, member);
     QMenu::addAction(action);

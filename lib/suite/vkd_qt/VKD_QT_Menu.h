@@ -22,7 +22,11 @@ public:
     explicit VKD_QT_Menu(QWidget* parent = nullptr);
     VKD_QT_Menu(QWidget* parent, const char* name);
     VKD_QT_Menu(const QString& title, QWidget* parent = nullptr);
-    // Adds an action of the given text, connected to a slot of the receiver.
-    VKD_QT_Action* addAction(const QString& text, const QObject* receiver = nullptr, const char* member = nullptr);
+    // Adds an action of the given text, connected to a slot of the receiver if one is given. Both
+    // take the parameters of QMenu's forms, so that they hide them: with defaults of their own a
+    // call of one argument would match both (gcc picks ours, clang refuses it).
+    VKD_QT_Action* addAction(const QString& text);
+    VKD_QT_Action* addAction(const QString& text, const QObject* receiver, const char* member,
+                             const QKeySequence& shortcut = 0);
     using QMenu::addAction;
 };

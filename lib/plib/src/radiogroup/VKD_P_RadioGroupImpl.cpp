@@ -37,9 +37,15 @@ QRadioButton* VKD_P_RadioGroupImpl::*const VKD_P_RadioGroupImpl::s_fields[10] = 
 
 VKD_P_RadioGroupImpl::VKD_P_RadioGroupImpl() = default;
 
+VKD_P_RadioGroupImpl::~VKD_P_RadioGroupImpl()
+{
+    if (m_layout && !m_layout->parent())
+        delete m_layout;
+}
+
 bool VKD_P_RadioGroupImpl::init(QWidget* parent)
 {
-    if (m_layout)
+    if (m_built)
         return false;
     auto* row = new QHBoxLayout;
     addButton(parent, row, tr("Manually"), VKD_P_RadioGroup::Manually);
@@ -50,7 +56,7 @@ bool VKD_P_RadioGroupImpl::init(QWidget* parent)
 
 bool VKD_P_RadioGroupImpl::initForLF(QWidget* parent, const std::list<VKD_P_RadioGroup::ButtonID>& ids)
 {
-    if (m_layout)
+    if (m_built)
         return false;
     auto* row = new QHBoxLayout;
     addButton(parent, row, tr("Manually"), VKD_P_RadioGroup::Manually);
@@ -65,7 +71,7 @@ bool VKD_P_RadioGroupImpl::initForLF(QWidget* parent, const std::list<VKD_P_Radi
 
 bool VKD_P_RadioGroupImpl::initEchoOutput(QWidget* parent)
 {
-    if (m_layout)
+    if (m_built)
         return false;
     auto* row = new QHBoxLayout;
     addButton(parent, row, tr("Manually controlled"), VKD_P_RadioGroup::Manually)
@@ -92,6 +98,7 @@ void VKD_P_RadioGroupImpl::finishRow(QHBoxLayout* row)
 {
     row->addItem(new QSpacerItem(0, 0, QSizePolicy::MinimumExpanding, QSizePolicy::Minimum));
     m_layout = row;
+    m_built = true;
     for (int id : wiringOrder) {
         if (QRadioButton* b = button(id))
             m_group.addButton(b, id);

@@ -3,12 +3,13 @@
 #include "VKD_P_RadioGroup.h"
 
 #include <QButtonGroup>
+#include <QLayout>
 #include <QObject>
+#include <QPointer>
 
 #include <list>
 
 class QHBoxLayout;
-class QLayout;
 class QRadioButton;
 class QWidget;
 
@@ -19,6 +20,8 @@ class VKD_P_RadioGroupImpl : public QObject
     Q_OBJECT
 public:
     VKD_P_RadioGroupImpl();
+    // Deletes the row if the host never took it into a layout or widget of its own.
+    ~VKD_P_RadioGroupImpl() override;
 
     // Each builds the row once and returns true; a second init of any form changes nothing and
     // returns false, so that the host's signals are not relayed twice.
@@ -55,7 +58,9 @@ private:
     QRadioButton* button(int id) const;
     QString loadCaseLabel(int id) const;
 
-    QLayout* m_layout = nullptr;
+    // Guarded: once the host has taken the row, the row may go before the group.
+    QPointer<QLayout> m_layout;
+    bool m_built = false;
     QRadioButton* m_Manually = nullptr;
     QRadioButton* m_All = nullptr;
     QRadioButton* m_All_A = nullptr;

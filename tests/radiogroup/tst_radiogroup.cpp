@@ -1,0 +1,51 @@
+// What stays when the group goes: the row of the echo output belongs to whoever takes it.
+#include "VKD_P_RadioGroupImpl.h"
+
+#include <QPointer>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <memory>
+
+class TestRadioGroup : public QObject
+{
+    Q_OBJECT
+private slots:
+    // The row has no parent of its own: whoever takes it keeps it, and a row nobody took goes with
+    // the group. A host that goes first takes the row along, and the group must not touch it then.
+    void rowOwnership_data()
+    {
+        QTest::addColumn<QString>("host");
+        QTest::addColumn<bool>("rowStays");
+        QTest::newRow("never taken: goes with the group") << "none" << false;
+        QTest::newRow("in the host's layout: stays") << "layout" << true;
+        QTest::newRow("set on a panel: stays") << "panel" << true;
+        QTest::newRow("host gone before the group") << "gone" << false;
+    }
+    void rowOwnership()
+    {
+        QFETCH(QString, host);
+        QFETCH(bool, rowStays);
+        auto dialog = std::make_unique<QWidget>();
+        auto* outer = new QVBoxLayout(dialog.get());
+        auto group = std::make_unique<VKD_P_RadioGroup>();
+        group->initEchoOutput(dialog.get());
+        const QPointer<QLayout> row = group->layout();
+        if (host == QLatin1String("layout") || host == QLatin1String("gone"))
+            outer->addLayout(row);
+        else if (host == QLatin1String("panel"))
+            (new QWidget(dialog.get()))->setLayout(row);
+        if (host == QLatin1String("gone"))
+            dialog.reset();
+        group.reset();
+        QCOMPARE(!row.isNull(), rowStays);
+        if (rowStays)
+            QCOMPARE(row->count(), 4); // three buttons and the spacer
+        if (dialog)
+            QCOMPARE(dialog->findChildren<QRadioButton*>().size(), 3);
+    }
+};
+
+QTEST_MAIN(TestRadioGroup)
+#include "tst_radiogroup.moc"
