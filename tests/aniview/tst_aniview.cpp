@@ -97,6 +97,9 @@ private slots:
         QCOMPARE(scene.groupAt({20, 110}), -1);
         QCOMPARE(scene.groupsIn(QRectF(0, 0, 200, 200)), (std::vector<int>{1, 5, 7}));
         QCOMPARE(scene.groupsIn(QRectF(60, 60, 80, 80)), (std::vector<int>{5, 7}));
+        // A model loaded again under the same camera is projected anew.
+        scene.setModel({}, {}, {});
+        QVERIFY(scene.project(view.camera(), QSize(200, 200)).empty());
     }
 
     // Two squares side by side, groups 1 and 2, seen from above in the scratch project: clicks,

@@ -386,8 +386,11 @@ private slots:
         QFETCH(QString, rows);
         addRows(m_data.rows, before);
         putRecords(index(), records);
+        DesignParameterData again = m_data;
         readRowsFromZob(m_data);
+        readRowsFromZob(again); // as when the page reads the store again
         QCOMPARE(rowsText(m_data.rows), rows);
+        QCOMPARE(rowsText(again.rows), rows);
         for (const DesignParameterRow& row : m_data.rows) {
             QVERIFY(row.groups.empty() || row.barData == &m_bars);
             // The group word keeps the number of the record that opened the row.
