@@ -64,11 +64,14 @@ void answerGroupDialog(QString* seen, const QString& steps)
                                  .arg(item->checkState(0) == Qt::Checked ? QLatin1Char('x')
                                                                          : QLatin1Char('-'))
                                  .arg(item->text(0), item->text(1), item->text(2));
+                    for (int c = 0; c < 2; ++c) // no group or title cut short
+                        QVERIFY(list->columnWidth(c) >= list->fontMetrics().horizontalAdvance(item->text(c)));
                 }
                 *seen = lines.join(QStringLiteral(" / "));
                 for (const QString& step : steps.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
                     if (step.startsWith(QLatin1String("filter:"))) {
                         auto* filter = dialog->findChild<QLineEdit*>(QStringLiteral("groupFilter"));
+                        QVERIFY(filter->isClearButtonEnabled()); // emptied with one click
                         filter->clear();
                         QTest::keyClicks(filter, step.mid(7));
                     } else if (auto* button = dialog->findChild<QPushButton*>(step)) {
