@@ -21,6 +21,7 @@
 #include <QCryptographicHash>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLayout>
 #include <QMenu>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -304,6 +305,9 @@ private slots:
         QVERIFY(matchesReference(tableText(table), QStringLiteral("new-project.txt")));
         QCOMPARE(designRecords(project.index()), records);
 
+        // Up and Down stand after New and Delete, left of the stretch.
+        const QLayout* buttonRow = page->findChild<QLayout*>(QStringLiteral("buttonRow"));
+        QCOMPARE(buttonRow->itemAt(3)->widget(), button(page, QStringLiteral("btnDown")));
         button(page, QStringLiteral("btnNew"))->click();
         QCOMPARE(table->item(1, 0)->text() + '|' + table->item(1, 1)->text(),
                  QStringLiteral("None|No design"));

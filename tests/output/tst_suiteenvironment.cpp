@@ -22,6 +22,7 @@ private slots:
 // neither.
 void SuiteEnvironmentTest::programAndModel()
 {
+    QCOMPARE(vkd::dbo::currentProject(), 0); // none open yet: the scratch database
     QTemporaryDir dir;
     VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("bridge.vkd")));
     VKD_H_PluginParameter parameter(&doc);

@@ -16,6 +16,7 @@ private slots:
     void messageCatalogue();
     void translation_data();
     void translation();
+    void searchFolders();
 
 private:
     QString write(const QString& name, const QByteArray& contents);
@@ -95,6 +96,14 @@ void TestDataFiles::translation()
     VKD_QT_InitTranslator translator("mod");
     vkd_lib_setvalue(102, 1);
     QCOMPARE(translator.isInstalled(), installed);
+}
+
+// Bit 1 of the mode takes the configured folders only, bit 2 those of the executable only.
+void TestDataFiles::searchFolders()
+{
+    const QString exe = QCoreApplication::applicationDirPath();
+    QCOMPARE(vkd_lib_searchfolders(2), QStringList({exe, exe + QStringLiteral("/data")}));
+    QVERIFY(!vkd_lib_searchfolders(1).contains(exe));
 }
 
 QTEST_GUILESS_MAIN(TestDataFiles)

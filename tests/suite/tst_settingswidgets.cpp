@@ -1,5 +1,6 @@
 #include <VKD_H_BoxedLineEdit.h>
 #include <VKD_H_TableWidget.h>
+#include <VKD_QT_Menu.h>
 #include <VKD_QT_RadioButtonGroup.h>
 #include <vkd_h_fieldcheck.h>
 
@@ -41,6 +42,7 @@ private slots:
     void radioChoice();
     void boxedEdit();
     void rowCountSignal();
+    void copyNeedsSelection();
 };
 
 // Entries are numbered by place; only a click reports; an attached widget lives with its entry.
@@ -51,7 +53,10 @@ void TestSettingsWidgets::radioChoice()
     QComboBox refused;
     group.setWidget(1, &attached);
     group.setWidget(2, &refused);
-    group.init(entries(3, 1));
+    std::vector<StructRadioButtonGrup> renamed = entries(3, 1);
+    renamed[2].text = QStringLiteral("renamed");
+    group.init(renamed);
+    QCOMPARE(group.getRadioButton(2)->text(), QStringLiteral("renamed"));
     QCOMPARE(attached.parentWidget(), &group);
     QCOMPARE(refused.parentWidget(), nullptr);
     QSignalSpy clicks(&group, &VKD_QT_RadioButtonGroup::buttWasClicked);
@@ -121,6 +126,17 @@ void TestSettingsWidgets::rowCountSignal()
     for (const QList<QVariant>& c : counts)
         seen << QStringLiteral("%1>%2").arg(c.at(0).toInt()).arg(c.at(1).toInt());
     QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("2>3 3>6 6>5 5>0"));
+}
+
+// Copy in the table's menu is live only with cells selected.
+void TestSettingsWidgets::copyNeedsSelection()
+{
+    VKD_H_TableWidget table(1, 1);
+    for (bool selected : {false, true}) {
+        table.setRangeSelected(QTableWidgetSelectionRange(0, 0, 0, 0), selected);
+        QCOMPARE(std::unique_ptr<VKD_QT_Menu>(table.getContextMenu())->actions().at(0)->isEnabled(),
+                 selected);
+    }
 }
 
 QTEST_MAIN(TestSettingsWidgets)
