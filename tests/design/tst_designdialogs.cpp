@@ -15,6 +15,7 @@
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter.h>
 #include <VKD_QT4_ComboBox.h>
+#include <VKD_QT_InfoText.h>
 #include <VKD_QT_TableWidgetButton.h>
 #include <demomodel.h>
 #include <design.h>
@@ -359,6 +360,7 @@ private slots:
                          .arg(combo->count());
         }
         QCOMPARE(shown, (QStringList{"m_pWKO \"0.25\" 3", "m_pWKOQ \"\" 3", "m_pSIGU \"450.0\" 8"}));
+        QVERIFY(dialog.findChild<VKD_QT_InfoText*>(QStringLiteral("infoCrack")));
     }
 
     // Two wrong pairs: each press gives one warning and leaves the dialog open, until both are
