@@ -3,6 +3,7 @@
 // written.
 #include "PlibHostDialog.h"
 #include "ScriptPreview.h"
+#include "demoproject.h"
 #include "reference.h"
 
 #include <VKD_H_ZOBDoc.h>
@@ -18,23 +19,6 @@
 #include <QtTest>
 
 namespace {
-
-struct Project
-{
-    QTemporaryDir dir;
-    QString path = dir.filePath(QStringLiteral("demo.vkd"));
-    Project()
-    {
-        QString error;
-        QVERIFY2(createDemoProject(path, &error), qPrintable(error));
-    }
-    QByteArray hash() const
-    {
-        QFile f(path);
-        return f.open(QIODevice::ReadOnly) ? QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha256)
-                                           : QByteArray();
-    }
-};
 
 QRadioButton* radio(QWidget* page, const char* group, int entry)
 {

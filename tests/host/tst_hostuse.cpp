@@ -2,6 +2,7 @@
 // that comes into sight, and what the two programs say and return on bad input.
 #include "ContentTagSwitch.h"
 #include "PlibHostDialog.h"
+#include "demoproject.h"
 
 #include <VKD_H_ZOBDoc.h>
 #include <VKD_P_DesignParameter.h>
@@ -18,17 +19,6 @@
 #include <QtTest>
 
 namespace {
-
-struct Project
-{
-    QTemporaryDir dir;
-    QString path = dir.filePath(QStringLiteral("demo.vkd"));
-    Project()
-    {
-        QString error;
-        QVERIFY2(createDemoProject(path, &error), qPrintable(error));
-    }
-};
 
 QStringList captions(VKD_P_WidgetGraphicalOutput* page)
 {
