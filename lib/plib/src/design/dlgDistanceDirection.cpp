@@ -9,6 +9,7 @@
 #include <VKD_QT_Label.h>
 #include <VKD_QT_Layouts.h>
 #include <VKD_QT_Ok.h>
+#include <vkd_h_fieldcheck.h>
 #include <vkd_h_units.h>
 
 #include <QFile>
@@ -148,17 +149,7 @@ void dlgDistanceDirection::buildCircular(VKD_QT_VBoxLayout* layout, StructLineEd
     addNote(grid, kRowNote);
     addFigure(box, grid, GET_FILENAME_WITH_LANG(QStringLiteral(":/neq_merpara_rich.png")));
 
-    StructLineEdit coordinate{VKD_H_LE_KIND_REAL,
-                              VKD_H_DIM_COORDINATE,
-                              0.0,
-                              99999.0,
-                              -99999.0,
-                              -99998.0,
-                              VKD_H_LE_EMPTY_MEANS_NOT_SET,
-                              QString(),
-                              QStringLiteral(","),
-                              QString(),
-                              {}};
+    StructLineEdit coordinate = vkd_h_defaultLineEdit(VKD_H_DIM_COORDINATE);
     const QString reference = tr("Reference point for circular reinforcement");
     auto* midpoint = new VKD_QT_GroupBox(tr("Midpoint"), this, "Midpoint");
     layout->addWidget(midpoint);
