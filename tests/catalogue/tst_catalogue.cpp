@@ -1,3 +1,4 @@
+#include "captiontokens.h"
 #include "catalogue.h"
 #include "testsupport.h"
 
@@ -81,22 +82,97 @@ private slots:
         QCOMPARE(records[1].scriptEnglish, QStringLiteral("BEAM FORC"));
     }
 
-    // A line's record does not depend on the lines before it (all lines here have 15 columns), also
-    // where it repeats fields of its neighbours or of a dropped line.
-    void linesReadTogetherAsAlone()
+    // The parser reuses what it made of a field equal to the line before's and resolves each
+    // caption once a parse: a line's record must not depend on its neighbours, nor on a dropped
+    // line. A plain caption's identifier is its column's.
+    void togetherAsAlone_data()
     {
-        const QList<QByteArray> lines{
-            "3|0|0|Results|Nodes|Displacement|Node|7|last-l|1|1|x|0|G1|E1\n",
-            "3|0|0|Results|Nodes|Displacement|Quad|8|desi-e|2|0|x|0|G2|E2\n",
-            "3|0|0|Other|Beams|Moments|Beam|9|beam| 0 |0|y|0| |dropped\n",
-            "3|0|0|Results|Beams|@AB1 Shown|Beam|9|beam|0|0|y|0|G3|E3\n",
-            "3|0|0| |Beams|Displacement|All|9|other|0|0| |0|G5|E5\n",
-        };
+        QTest::addColumn<QByteArrayList>("lines");
+        QTest::addColumn<QStringList>("ids");
+        const QString plain = QStringLiteral("    001    002    003");
+        QTest::newRow("plain captions change columns")
+            << QByteArrayList{"1|0|0|A|B|C|All|0|last|0|0| |0|G1|E1\n",
+                              "1|0|0|B|C|A|All|0|last|0|0| |0|G2|E2\n",
+                              "1|0|0|C|A|B|All|0|last|0|0| |0|G3|E3\n"}
+            << QStringList{plain, plain, plain};
+        QTest::newRow("key captions come back after others")
+            << QByteArrayList{"1|0|0|&ABC|@X01 one|A|All|0|last|0|0| |0|G1|E1\n",
+                              "1|0|0|@X01 one|&ABC|&ABC|All|0|last|0|0| |0|G2|E2\n",
+                              "1|0|0|&ABC|@X01 one|A|All|0|last|0|0| |0|G3|E3\n"}
+            << QStringList{"   &ABC   @X01    003", "   @X01   &ABC   &ABC", "   &ABC   @X01    003"};
+        QTest::newRow("UTF-8 and ASCII lines with the same fields")
+            << QByteArrayList{"1|0|0|Ergebnis ü|Knoten|Verschiebung|All|7|last-l|1|1| |0|G1 ä|E1\n",
+                              "1|0|0|Ergebnis|Knoten|Verschiebung|All|7|last-l|1|1| |0|G1|E1\n",
+                              "1|0|0|Ergebnis ü|Knoten|Verschiebung|All|7|last-l|1|1| |0|G1 ä|E1\n"}
+            << QStringList{plain, plain, plain};
+        QTest::newRow("blanks around equal fields")
+            << QByteArrayList{"2|0|0|A|B|C|All|3|desi-e|1|1|x|4|G1|E1\n",
+                              " 2 |0|0| A |B|C |All| 3|desi-e |1|1|x |4|G1|E1\n",
+                              "2|0|0|A|B|C|All|3|DESI-E|1|1|x|4|G1|E1\n"}
+            << QStringList{plain, plain, plain};
+        QTest::newRow("a dropped line between")
+            << QByteArrayList{"3|0|0|Results|Nodes|Displacement|Quad|8|desi-e|2|0|x|0|G2|E2\n",
+                              "3|0|0|Other|Beams|Moments|Beam|9|beam| 0 |0|y|0| |dropped\n",
+                              "3|0|0|Results|Beams|@AB1 Shown|Beam|9|beam|0|0|y|0|G3|E3\n"}
+            << QStringList{plain, "    001    002   @AB1"};
+    }
+
+    void togetherAsAlone()
+    {
+        QFETCH(QByteArrayList, lines);
+        QFETCH(QStringList, ids);
+        QStringList idsRead;
+        for (const GraphicalOutputRecord& r : parseText(lines.join()))
+            idsRead << r.id1 + r.id2 + r.id3;
+        QCOMPARE(idsRead, ids);
         QStringList alone;
-        for (const QByteArray& l : lines)
-            alone += describedAll(parseText(l));
-        QCOMPARE(alone.size(), 4);
+        for (const QByteArray& line : lines)
+            alone += describedAll(parseText(line));
         QCOMPARE(describedAll(parseText(lines.join())), alone);
+    }
+
+    // Short fields of digits are read directly, longer ones and others as QString::toInt() reads
+    // them; data/sample.data has signs, letters and blanks.
+    void numbers_data()
+    {
+        QTest::addColumn<QByteArray>("field");
+        QTest::addColumn<int>("value");
+        QTest::newRow("minus sign") << QByteArray("-3") << -3;
+        QTest::newRow("nine digits") << QByteArray("123456789") << 123456789;
+        QTest::newRow("largest int") << QByteArray("2147483647") << 2147483647;
+        QTest::newRow("beyond int") << QByteArray("2147483648") << 0;
+    }
+
+    void numbers()
+    {
+        QFETCH(QByteArray, field);
+        QFETCH(int, value);
+        const QByteArray f = field + '|';
+        const std::vector<GraphicalOutputRecord> records =
+            parseText(f + f + f + "A|B|C|All|" + f + "last|" + f + f + " |" + f + "G|E\n");
+        QCOMPARE(records.size(), size_t(1));
+        const GraphicalOutputRecord& r = records.front();
+        const QVector<int> read{r.prog1, r.prog2, r.prog3, r.number7, r.preselect, r.viewKind, r.systemMask};
+        QCOMPARE(read, QVector<int>(read.size(), value));
+    }
+
+    // Token texts kept over a run of captions give what a lookup of each gives; the same key under
+    // another sign is another text.
+    void captionsWithKeptTokenTexts()
+    {
+        const QStringList fields{"&GTK",         "^GTK",    "&GT0",    "&ABC Fallback",
+                                 "^CAR Caret?",  "$DOL",    "1 A&ABC", "U2R&ABC",
+                                 "2hC&ABC",      "B+I&ABC", "O1S&ABC", "&XYZ  Fallback ",
+                                 "@ND1   Nodes", "U2R&ABC", "^GTK",    "&GTK"};
+        TokenTexts texts;
+        QStringList kept, alone;
+        for (const QString& field : fields) {
+            kept << captionText(field, &texts);
+            alone << captionText(field);
+        }
+        QCOMPARE(kept, alone);
+        QCOMPARE(alone.at(0), QStringLiteral(" Long"));
+        QCOMPARE(alone.at(1), QStringLiteral(" c>d"));
     }
 };
 

@@ -84,6 +84,23 @@ const QByteArray choiceCatalogue =
     rec("@T02 T2", "@C02 C2", "@P04 d") + rec("@T02 T2", "@C02 C2", "@X:1 g") +
     rec("@T03 T3", "@C03 C3", "@P05 e") + rec("@T04 T4", "@C05 C5", "p") + rec("@T04 T4", "@C05 C5", "q");
 
+// Row 1 twice, so that a number names two rows; b picks its first row by default.
+const QByteArray twiceCatalogue = rec("@T01 T1", "@C01 C1", "@P01 a") +
+                                  rec("@T01 T1", "@C01 C1", "@P02 b", "last-l", 1) +
+                                  rec("@T01 T1", "@C01 C1", "@P03 c", "last-l") +
+                                  rec("@T01 T1", "@C02 C2", "@P04 d") + rec("@T02 T2", "@C03 C3", "@P05 e");
+const std::vector<LoadcaseInformation> rowOneTwice = {{1, 1, "r1"}, {1, 1, "s1"}, {1, 2, "r2"}};
+
+QString scriptText(GraphicalOutputTreeWidget& view)
+{
+    std::vector<QString> lines;
+    const int count = view.collectScriptLines(lines, true);
+    QString text;
+    for (const QString& line : lines)
+        text += line + QLatin1Char('\n');
+    return count == int(lines.size()) ? text : QStringLiteral("count %1 for:\n").arg(count) + text;
+}
+
 } // namespace
 
 class TestOutputTree : public QObject
@@ -161,13 +178,40 @@ private slots:
         t.at({0, 0, 1, 1})->setCheckState(0, Qt::Checked); // b, row 5
         t.at({0, 0, 2})->setCheckState(0, Qt::Checked);    // c has no rows and no line
         t.at({2, 0, 0})->setCheckState(0, Qt::Unchecked);  // f
-        std::vector<QString> lines;
-        const int count = t.view->collectScriptLines(lines, true);
-        QCOMPARE(count, int(lines.size()));
-        QString text;
-        for (const QString& line : lines)
-            text += line + QLatin1Char('\n');
-        QVERIFY(matchesReference(text, reference));
+        QVERIFY(matchesReference(scriptText(*t.view), reference));
+    }
+
+    void scriptLinesByHand_data()
+    {
+        QTest::addColumn<QStringList>("checked");
+        QTest::addColumn<QString>("expected");
+        // Paths are plot.row below the one caption.
+        QTest::newRow("a row under an unchecked plot") << QStringList{"1.1"} << "LC 2 DESI 2\nPICT B\n";
+        QTest::newRow("a plot checked, one of its rows not")
+            << QStringList{"0", "0.1"} << "LC 2 DESI 2\nPICT A\n";
+        QTest::newRow("the plot without rows under an unchecked caption") << QStringList{"2"} << "PICT C\n";
+    }
+
+    // States set without the automatic update: a plot's or caption's own state then says nothing
+    // about the items below it.
+    void scriptLinesByHand()
+    {
+        QFETCH(QStringList, checked);
+        QFETCH(QString, expected);
+        Tree t(rec("T", "C", "a", "last-l", 0, 0, "All", "A") +
+                   rec("T", "C", "b", "last-l", 0, 0, "All", "B") +
+                   rec("T", "C", "c", "none", 0, 0, "All", "C"),
+               1, {{1, 1, "1: r1"}, {1, 2, "2: r2"}});
+        for (int plot : {0, 1, 2})
+            t.at({0, 0, plot})->setCheckState(0, Qt::Unchecked);
+        t.view->setAutomaticCheckStateUpdate(false);
+        for (const QString& path : checked) {
+            const int plot = path.section('.', 0, 0).toInt();
+            QTreeWidgetItem* item =
+                path.contains('.') ? t.at({0, 0, plot, path.section('.', 1).toInt()}) : t.at({0, 0, plot});
+            item->setCheckState(0, Qt::Checked);
+        }
+        QCOMPARE(scriptText(*t.view), expected);
     }
 
     // The choice goes to text and comes back; a plot stored as checked takes new rows checked, one
@@ -202,6 +246,59 @@ private slots:
             t.view->applySelection(text.replace(QLatin1Char('/'), QLatin1Char('\n')));
             return t.shape();
         }));
+    }
+
+    void choiceOnRowsOfOneNumber_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("shape");
+        const QString rest = QStringLiteral(" C2-(d-)) T2-(C3-(e-))");
+        QTest::newRow("of two rows of a number the last counts")
+            << "Partially:@T01   @C01   @P02 : 1,\n"
+            << "T1~(C1~(a- b~(r1- s1+ r2-) c-(r1- s1- r2-))" + rest;
+        QTest::newRow("a number twice checks its row once")
+            << "Partially:@T01   @C01   @P02 : 2,2,\n"
+            << "T1~(C1~(a- b~(r1- s1- r2+) c-(r1- s1- r2-))" + rest;
+        QTest::newRow("a later line clears what an earlier one checked")
+            << "Partially:@T01   @C01   @P02 : 1,2,\nUnchecked:@T01\nPartially:@T01   @C01   @P03 : 2,\n"
+            << "T1~(C1~(a- b-(r1- s1- r2-) c~(r1- s1- r2+))" + rest;
+        QTest::newRow("a caption by numbers takes its last plot of number 0 with all rows")
+            << "Partially:@T01   @C01 : 0,\n"
+            << "T1~(C1~(a- b-(r1- s1- r2-) c+(r1+ s1+ r2+))" + rest;
+        QTest::newRow("a checked top, then one row of it unchecked")
+            << "Checked:@T01\nPartially:@T01   @C01   @P03 : 1,\n"
+            << "T1~(C1~(a+ b+(r1+ s1+ r2+) c~(r1- s1+ r2-)) C2+(d+)) T2-(C3-(e-))";
+    }
+
+    // The same choice whether applied in the view or carried through a rebuild before the items
+    // enter it, which starts again from the defaults (b's first row).
+    void choiceOnRowsOfOneNumber()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, shape);
+        Tree t(twiceCatalogue, 1, rowOneTwice);
+        t.view->applySelection(text);
+        QCOMPARE(t.shape(), shape);
+        t.view->rebuild(false);
+        QCOMPARE(t.shape(), shape);
+    }
+
+    // Applying the choice the tree shows changes no item; one that differs in one row changes that
+    // row and the items above it whose state follows.
+    void ownChoiceChangesNothing()
+    {
+        Tree t(twiceCatalogue, 1, rowOneTwice);
+        t.view->applySelection(QStringLiteral("Checked:@T01\nPartially:@T01   @C01   @P03 : 1,\n"));
+        QStringList changed;
+        connect(t.view.get(), &QTreeWidget::itemChanged,
+                [&](QTreeWidgetItem* item) { changed << item->text(0); });
+        t.view->applySelection(t.view->selectionText());
+        QCOMPARE(changed, QStringList());
+        t.view->applySelection(QStringLiteral("Checked:@T01\nPartially:@T01   @C01   @P03 : 1,2,\n"));
+        QCOMPARE(changed, (QStringList{"r2"}));
+        t.view->applySelection(QStringLiteral("Checked:@T01\n"));
+        changed.sort();
+        QCOMPARE(changed, (QStringList{"C1", "T1", "c", "r1", "r2"}));
     }
 
     // Rows show LF on a German desktop and LC on any other, plots their card; the dump shows the

@@ -3,7 +3,6 @@
 
 #include "GraphicalOutputTreeWidget.h"
 #include "VKD_P_WidgetGraphicalOutput.h"
-#include "demomodel.h"
 #include "testsupport.h"
 
 #include <AnimatorView.h>
@@ -18,12 +17,11 @@
 #include <QRadioButton>
 #include <QTemporaryDir>
 
-// Models of a page's project: none, one bric, the demo project (with the shipped catalogue).
+// Models of a page's project: none or one bric.
 enum Model : int
 {
     NoModel = 0,
-    OneBric = vkd::dbo::KeyBricks,
-    Demo = -1
+    OneBric = vkd::dbo::KeyBricks
 };
 
 // Below one caption the plots a (rows of load cases, the first checked by default), b, and iso
@@ -42,11 +40,6 @@ struct Page
         catalogueLanguage = vkd_lib_getvalue(kSettingLanguage);
         if (model > 0)
             vkd::dbo::writeAll<vkd::dbo::ElementRecord>(doc.index(), model, {{1, 1, {1, 2, 3, 4}}});
-        if (model == Demo) {
-            catalogueList().clear();
-            catalogueLanguage = -1;
-            writeDemoModel(doc.index());
-        }
         animator = preview ? new AnimatorView(doc.index()) : nullptr;
         page = new VKD_P_WidgetGraphicalOutput(
             parent ? parent : &holder, VKD_P_WidgetGraphicalOutput_Progname(progname), &parameter, animator);

@@ -74,7 +74,6 @@ private slots:
     void tableRows();
     void tableChanges();
     void additionalTag();
-    void demoProject();
 };
 
 void TestOutputPage::widgets_data()
@@ -293,23 +292,6 @@ void TestOutputPage::additionalTag()
     tag.clicked(0);
     plots << QString::number(p.plot()->parent()->childCount());
     QCOMPARE(plots.join(QLatin1Char(' ')), QStringLiteral("2 3 3 2 3 2 3 2"));
-}
-
-// The whole script of a page on the demo project with the shipped catalogue and the project's
-// load cases, in both keyword languages.
-void TestOutputPage::demoProject()
-{
-    Page p(GraphicalOutputStandard, Demo);
-    QVERIFY(p.get<VKD_QT_CheckBox>("Check: Filled Isolines")->isEnabled());
-    std::vector<LoadcaseInformation> rows;
-    for (const auto& lc : vkd::dbo::readAll<vkd::dbo::LoadCaseRecord>(p.doc.index(), vkd::dbo::KeyLoadCases))
-        rows.push_back({lc.kind == 4 ? 2 : 1, lc.number,
-                        QStringLiteral("%1 : %2").arg(lc.number).arg(QString::fromUtf8(lc.title))});
-    p.page->setUsedNumbersAndNames(rows);
-    p.page->slotDefaultSettings();
-    QVERIFY(matchesReference(p.page->getTORVAL(true), QStringLiteral("page-demo-en.txt")));
-    QVERIFY(matchesReference(p.page->getTORVAL(QStringLiteral("$ more"), false),
-                             QStringLiteral("page-demo-de.txt")));
 }
 
 QTEST_MAIN(TestOutputPage)

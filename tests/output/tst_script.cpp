@@ -4,20 +4,30 @@
 
 #include <QtTest>
 
+#include <map>
+
 using namespace vkd::plib::widgetgraphicaloutput;
 
 Q_DECLARE_METATYPE(OutputSettings)
 
 namespace {
 
+// Fixed answers, and how often the project was asked.
 class FixedEnvironment : public ScriptEnvironment
 {
 public:
     bool quads = false;
-    QString programStart() const override { return QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n"); }
-    QString programEnd(bool english) const override { return QLatin1String(english ? "END" : "ENDE"); }
-    bool modelHasQuads() const override { return quads; }
-    QString userCamera() const override { return QStringLiteral("X 0.5 Y -0.5 Z 0.7071"); }
+    mutable int asked = 0;
+    QString programStart() const override
+    {
+        return ++asked, QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n");
+    }
+    QString programEnd(bool english) const override
+    {
+        return ++asked, QLatin1String(english ? "END" : "ENDE");
+    }
+    bool modelHasQuads() const override { return ++asked, quads; }
+    QString userCamera() const override { return ++asked, QStringLiteral("X 0.5 Y -0.5 Z 0.7071"); }
 };
 
 const std::vector<QString> twoPlots{QStringLiteral("VIEW EG3"), QStringLiteral("LC 1 ; QUAD TYPE MY")};
@@ -27,39 +37,51 @@ const std::vector<QString> twoPlots{QStringLiteral("VIEW EG3"), QStringLiteral("
 OutputSettings settingsOf(const QString& words, bool* english, QString* additional)
 {
     OutputSettings s;
+    const std::map<QString, int*> numbers{{"format", &s.formatId},   {"pictures", &s.picturesId},
+                                          {"scale", &s.scaleMode},   {"index", &s.scaleIndex},
+                                          {"split", &s.pageSplitId}, {"view", &s.viewId}};
+    const std::map<QString, QString*> texts{
+        {"text", &s.scaleText}, {"font", &s.fontSizeText}, {"add", additional}};
     *english = true;
     for (const QString& word : words.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
         const QString key = word.section(QLatin1Char('='), 0, 0);
-        const QString text = word.section(QLatin1Char('='), 1);
-        const int number = text.toInt();
+        const QString value = word.section(QLatin1Char('='), 1);
         if (key == "de")
             *english = false;
         else if (key == "noformat")
             s.hasFormat = false;
         else if (key == "variant")
-            s.variant = VKD_P_WidgetGraphicalOutput_Progname(number);
-        else if (key == "format")
-            s.formatId = number;
-        else if (key == "pictures")
-            s.picturesId = number;
-        else if (key == "scale")
-            s.scaleMode = number;
-        else if (key == "index")
-            s.scaleIndex = number;
-        else if (key == "text")
-            s.scaleText = text;
-        else if (key == "split")
-            s.pageSplitId = number;
-        else if (key == "view")
-            s.viewId = number;
-        else if (key == "font")
-            s.fontSizeText = text;
-        else if (key == "add")
-            *additional = text;
+            s.variant = VKD_P_WidgetGraphicalOutput_Progname(value.toInt());
+        else if (numbers.count(key))
+            *numbers.at(key) = value.toInt();
+        else if (texts.count(key))
+            *texts.at(key) = value;
         else
             qFatal("unknown word %s", qPrintable(word));
     }
     return s;
+}
+
+// "c:" before a line hands it as a load case line; "=" hands the line before once more, the
+// same string object; anything else is a new string.
+void hand(ScriptLineSink& sink, const QStringList& steps)
+{
+    QString last;
+    for (const QString& step : steps) {
+        if (step == QLatin1String("="))
+            sink.line(last);
+        else if (step.startsWith(QLatin1String("c:")))
+            sink.caseLine(step.mid(2));
+        else
+            sink.line(last = QString(step.constData(), step.size()));
+    }
+}
+
+// The plot lines of a script: what stands between the page setup and the closing line.
+QString plotLines(const QString& script)
+{
+    const int start = script.indexOf(QLatin1String("FORM STAN\n")) + 10;
+    return script.mid(start, script.lastIndexOf(QLatin1String("END")) - start);
 }
 
 } // namespace
@@ -70,8 +92,10 @@ class ScriptTest : public QObject
 private slots:
     void fullScript_data();
     void fullScript();
-    void noPlotsNoScript();
     void parts();
+    void sharedTexts_data();
+    void sharedTexts();
+    void projectAskedOnlyForLines();
 };
 
 void ScriptTest::fullScript_data()
@@ -116,15 +140,6 @@ void ScriptTest::fullScript()
     QVERIFY(matchesReference(script(settings, twoPlots, additional, english, environment), reference));
 }
 
-void ScriptTest::noPlotsNoScript()
-{
-    FixedEnvironment environment;
-    OutputSettings settings;
-    QCOMPARE(script(settings, {}, QStringLiteral("PLOT EXTRA"), true, environment), QString());
-    settings.variant = GraphicalOutputPrefix;
-    QCOMPARE(script(settings, {}, QStringLiteral("PLOT EXTRA\n"), false, environment), QString());
-}
-
 // The page setup, the font statement and a plot line as the view makes it; on the split page the
 // script, alike with and without plots (data/parts.txt).
 void ScriptTest::parts()
@@ -148,6 +163,57 @@ void ScriptTest::parts()
                            out.value(out.size() - 3)}
             .join(QStringLiteral(" | "));
     }));
+}
+
+// The rows of a plot hand its text again; each line still gets its own view.
+void ScriptTest::sharedTexts_data()
+{
+    QTest::addColumn<int>("viewId");
+    QTest::addColumn<QStringList>("steps");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("rows repeat one plot's text, each replaced")
+        << int(ViewXZ) << QStringList{"c:LC 1 DESI 1", "QUAD EG3 X", "c:LC 2 DESI 2", "=", "="}
+        << "LC 1 DESI 1\nQUAD TYPE EGXZ ; PERS INFI\nLC 2 DESI 2\nQUAD TYPE EGXZ ; PERS INFI\n"
+           "QUAD TYPE EGXZ ; PERS INFI\n";
+    QTest::newRow("a text of the same length that follows is its own")
+        << int(ViewXY) << QStringList{"AAA EG3", "BBBBBBB", "AAA EG3", "CCC EG3"}
+        << "AAA TYPE EGXY ; PERS INFI\nBBBBBBB\nAAA TYPE EGXY ; PERS INFI\nCCC TYPE EGXY ; PERS INFI\n";
+    QTest::newRow("EG3 at the start stays, also when repeated")
+        << int(ViewYZ) << QStringList{"EG3 A", "=", "B EG3"} << "EG3 A\nEG3 A\nB TYPE EGYZ ; PERS INFI\n";
+}
+
+void ScriptTest::sharedTexts()
+{
+    QFETCH(int, viewId);
+    QFETCH(QStringList, steps);
+    QFETCH(QString, expected);
+    OutputSettings settings;
+    settings.viewId = viewId;
+    const QString text = scriptFromWriter(
+        settings, [&steps](ScriptLineSink& sink) { hand(sink, steps); }, QString(), true, FixedEnvironment());
+    QCOMPARE(plotLines(text), expected);
+}
+
+// A script without plot lines is empty and costs the project nothing; with lines each question
+// is asked once (the user camera only for a user view).
+void ScriptTest::projectAskedOnlyForLines()
+{
+    OutputSettings settings;
+    settings.viewId = ViewUserDefined;
+    FixedEnvironment environment;
+    QCOMPARE(scriptFromWriter(
+                 settings, [](ScriptLineSink&) {}, QStringLiteral("X"), true, environment),
+             QString());
+    QCOMPARE(environment.asked, 0);
+    settings.variant = GraphicalOutputPrefix;
+    const QString text = scriptFromWriter(
+        settings,
+        [](ScriptLineSink& sink) {
+            hand(sink, {"P EG3", "c:LC 4 DESI 4"});
+        },
+        QStringLiteral("PRE\n"), true, environment);
+    QCOMPARE(environment.asked, 4);
+    QCOMPARE(plotLines(text), QStringLiteral("PRE\nP TYPE STAN X 0.5 Y -0.5 Z 0.7071\nLC 4 DESI 4\n"));
 }
 
 QTEST_GUILESS_MAIN(ScriptTest)
