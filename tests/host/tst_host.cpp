@@ -1,37 +1,75 @@
 // The host dialog as a person uses it: its batch script on the demo project, the pages' states
-// kept across a save and a new start, Cancel writing nothing, and a script that cannot be
-// written.
+// kept across a save and a new start, Cancel writing nothing, a script that cannot be written,
+// the plots switched on above an output page, a new design row that comes into sight, and what
+// the host and the project tool say and return on bad input.
+#include "ContentTagSwitch.h"
 #include "PlibHostDialog.h"
 #include "ScriptPreview.h"
-#include "demoproject.h"
 #include "reference.h"
 
 #include <VKD_H_ZOBDoc.h>
+#include <VKD_P_DesignParameter.h>
 #include <VKD_P_WidgetGraphicalOutput.h>
+#include <VKD_QT_RadioButtonGroup.h>
 #include <newproject.h>
 
-#include <QAbstractButton>
 #include <QCryptographicHash>
 #include <QMessageBox>
 #include <QProcess>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTreeWidget>
 #include <QtTest>
 
 namespace {
+
+QByteArray hashOf(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha256)
+                                       : QByteArray("<none>");
+}
+
+// The demo project in a folder of its own, made as the host makes it.
+struct Project
+{
+    QTemporaryDir dir;
+    QString path = dir.filePath(QStringLiteral("demo.vkd"));
+    Project()
+    {
+        QString error;
+        QVERIFY2(createDemoProject(path, &error), qPrintable(error));
+    }
+    QByteArray hash() const { return hashOf(path); }
+};
 
 QRadioButton* radio(QWidget* page, const char* group, int entry)
 {
     return page->findChild<QWidget*>(QLatin1String(group))->findChildren<QRadioButton*>().value(entry);
 }
 
-// Landscape on the output page, and load case 3 alone, ticked by hand.
+QStringList captions(VKD_P_WidgetGraphicalOutput* page)
+{
+    QStringList texts;
+    for (QTreeWidgetItemIterator it(page->findChild<QTreeWidget*>()); *it; ++it)
+        texts << (*it)->text(0);
+    return texts;
+}
+
+// Landscape and the tendons of switched-on prestressing ticked on the output page, and load case 3
+// alone, ticked by hand.
 void changePages(PlibHostDialog& host)
 {
     radio(host.outputPage(), "FormatGroup", 1)->click();
+    host.outputContent()->group()->getRadioButton(ContentTagSwitch::Prestressing)->click();
+    auto* tree = host.outputPage()->findChild<QTreeWidget*>();
+    const auto tendons = tree->findItems(QStringLiteral("Tendons in quad elements"), Qt::MatchRecursive);
+    QVERIFY(!tendons.isEmpty());
+    tendons.first()->setCheckState(0, Qt::Checked);
     host.findChild<QRadioButton*>(QStringLiteral("m_Manually"))->click();
-    auto* table = host.findChild<QTableWidget*>(QStringLiteral("loadCaseTable"));
-    table->item(2, 0)->setCheckState(Qt::Checked);
+    host.findChild<QTableWidget*>(QStringLiteral("loadCaseTable"))->item(2, 0)->setCheckState(Qt::Checked);
 }
 
 QString readFile(const QString& path)
@@ -51,6 +89,11 @@ private slots:
     void statesKeptAcrossStarts();
     void cancelWritesNothing();
     void scriptThatCannotBeWritten();
+    void contentSwitch_data();
+    void contentSwitch();
+    void newRowComesIntoSight();
+    void badInput_data();
+    void badInput();
 };
 
 void TestHost::batchScript_data()
@@ -73,6 +116,8 @@ void TestHost::batchScript()
     QCOMPARE(project.hash(), before);
 }
 
+// The content choice comes back before the tree's choice, so that a ticked plot of switched-on
+// content stays ticked and in the script.
 void TestHost::statesKeptAcrossStarts()
 {
     Project project;
@@ -87,10 +132,14 @@ void TestHost::statesKeptAcrossStarts()
         QCOMPARE(readFile(host.scriptPath(host.outputPage())), script);
     }
     QVERIFY(script.contains(QLatin1String("SIZE URS SC 0 MARG NO FORM STAN\n")));
+    QVERIFY(script.contains(QLatin1String("TEND QUAD GEOM YES NUMB YES")));
     QVERIFY(script.contains(QLatin1String("LC 3")) && !script.contains(QLatin1String("LC 4")));
     VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
     PlibHostDialog host(&doc);
     QVERIFY(radio(host.outputPage(), "FormatGroup", 1)->isChecked());
+    QCOMPARE(host.outputContent()->choice(), int(ContentTagSwitch::Prestressing));
+    QVERIFY(host.outputContent()->group()->getRadioButton(ContentTagSwitch::Prestressing)->isChecked());
+    QCOMPARE(host.splitContent()->choice(), int(ContentTagSwitch::ModelOnly));
     QCOMPARE(PlibHostDialog::script(host.outputPage(), true), script);
     QCOMPARE(host.preview()->text(), script);
 }
@@ -133,6 +182,153 @@ void TestHost::scriptThatCannotBeWritten()
     VKD_H_ZOBDoc reopened(project.path, VKD_H_ZOBDoc::OpenExisting);
     PlibHostDialog again(&reopened);
     QVERIFY(radio(again.outputPage(), "FormatGroup", 1)->isChecked());
+}
+
+void TestHost::contentSwitch_data()
+{
+    QTest::addColumn<bool>("split");
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<QStringList>("offered");
+    QTest::addColumn<QStringList>("notOffered");
+    QTest::newRow("prestressing, graphical output")
+        << false << int(ContentTagSwitch::Prestressing)
+        << QStringList{"Prestressing", "Tendons in quad elements", "Tendons in beams", "Prestressing force"}
+        << QStringList{"Brick elements", "Section cuts"};
+    QTest::newRow("section cuts, graphical output")
+        << false << int(ContentTagSwitch::SectionCuts) << QStringList{"Position of the cuts", "Section cuts"}
+        << QStringList{"Tendons in quad elements"};
+    // The split page offers the structure of bricks, not their results.
+    QTest::newRow("bricks, page splitting")
+        << true << int(ContentTagSwitch::Bricks) << QStringList{"Brick elements"} << QStringList{"Bricks"};
+}
+
+// A click offers the plots of that content at once, a click on "What the model holds" takes
+// them away again; the other page keeps to its model.
+void TestHost::contentSwitch()
+{
+    QFETCH(bool, split);
+    QFETCH(int, choice);
+    QFETCH(QStringList, offered);
+    QFETCH(QStringList, notOffered);
+    Project project;
+    VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
+    PlibHostDialog host(&doc);
+    VKD_P_WidgetGraphicalOutput* page = split ? host.splitPage() : host.outputPage();
+    ContentTagSwitch* content = split ? host.splitContent() : host.outputContent();
+    QCOMPARE(content->group()->objectName(), QLatin1String(split ? "splitContent" : "outputContent"));
+    const QStringList before = captions(page);
+    for (const QString& caption : offered + notOffered)
+        QVERIFY2(!before.contains(caption), qPrintable(caption));
+    content->group()->getRadioButton(choice)->click();
+    QCOMPARE(content->choice(), choice);
+    const QStringList switched = captions(page);
+    for (const QString& caption : offered + notOffered)
+        QVERIFY2(switched.contains(caption) == offered.contains(caption), qPrintable(caption));
+    QVERIFY(!captions(split ? host.outputPage() : host.splitPage()).contains(offered.first()));
+    content->group()->getRadioButton(ContentTagSwitch::ModelOnly)->click();
+    QCOMPARE(captions(page), before);
+}
+
+// However many rows the table has, a new one is current on its type cell and visible, and the
+// rows the user selected stay selected.
+void TestHost::newRowComesIntoSight()
+{
+    Project project;
+    VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
+    PlibHostDialog host(&doc);
+    host.resize(900, 480);
+    host.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&host));
+    auto* table = host.designPage()->findChild<QTableWidget*>();
+    auto* newButton = host.designPage()->findChild<QAbstractButton*>(QStringLiteral("btnNew"));
+    QVERIFY(table && newButton);
+    table->selectRow(2);
+    const int typeColumn = 1;
+    bool scrolled = false;
+    for (int added = 1; added <= 8; ++added) {
+        newButton->click();
+        QCoreApplication::processEvents();
+        const int last = table->rowCount() - 1;
+        QCOMPARE(table->currentRow(), last);
+        QCOMPARE(table->currentColumn(), typeColumn);
+        const QRect cell = table->visualRect(table->model()->index(last, typeColumn));
+        QVERIFY2(table->viewport()->rect().contains(cell), qPrintable(QStringLiteral("row %1").arg(last)));
+        scrolled = scrolled || table->verticalScrollBar()->value() > 0;
+        QCOMPARE(table->selectionModel()->selectedRows().size(), 1);
+        QCOMPARE(table->selectionModel()->selectedRows().first().row(), 2);
+    }
+    // Else the table was tall enough for all rows, and nothing above was shown.
+    QVERIFY(scrolled);
+}
+
+void TestHost::badInput_data()
+{
+    // "@" stands for a damaged project file in the test's folder, "%" for the demo project,
+    // "~" for a folder that is not there. Usage errors (2) name the option; failures (3) give
+    // one line naming the file.
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("said");
+    const QString host = QStringLiteral(PLIB_HOST);
+    const QString tool = QStringLiteral(PROJECT_TOOL);
+    QTest::newRow("host, keywords without a value")
+        << host << QStringList{"@", "--script-language"} << 2 << "--script-language needs a value";
+    QTest::newRow("host, damaged project")
+        << host << QStringList{"--script", "-", "@"} << 3 << "@ is not a project file.";
+    QTest::newRow("host, batch run on a project not made yet")
+        << host << QStringList{"--script", "-", "none.vkd"} << 3
+        << "The project file none.vkd does not exist.";
+    QTest::newRow("host, script into a missing folder")
+        << host << QStringList{"--script", "~/s.grav", "%"} << 3 << "cannot write the script to ~/s.grav";
+    QTest::newRow("tool, unknown command") << tool << QStringList{"show", "@"} << 2 << "usage: plib-project";
+    QTest::newRow("tool, keys that are no numbers, checked before the file")
+        << tool << QStringList{"dump", "~/p.vkd", "200", "six"} << 2 << "usage: plib-project";
+    QTest::newRow("tool, create with two files")
+        << tool << QStringList{"create", "a.vkd", "b.vkd"} << 2 << "usage: plib-project";
+    QTest::newRow("tool, model of a damaged project")
+        << tool << QStringList{"model", "@"} << 3 << "plib-project: @ is not a project file.";
+    QTest::newRow("tool, create in a missing folder")
+        << tool << QStringList{"create", "~/p.vkd"} << 3 << "The project file ~/p.vkd cannot be created";
+}
+
+void TestHost::badInput()
+{
+    QFETCH(QString, program);
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QString, said);
+    QTemporaryDir dir;
+    const QString damaged = dir.filePath(QStringLiteral("damaged.vkd"));
+    const QString missing = dir.filePath(QStringLiteral("missing"));
+    const QString demo = dir.filePath(QStringLiteral("demo.vkd"));
+    {
+        QFile f(damaged);
+        QVERIFY(f.open(QIODevice::WriteOnly) && f.write("not a project\n") > 0);
+    }
+    QString error;
+    if (arguments.contains(QStringLiteral("%")))
+        QVERIFY2(createDemoProject(demo, &error), qPrintable(error));
+    const QByteArray before = hashOf(damaged) + hashOf(demo);
+    said.replace(QLatin1Char('@'), damaged).replace(QLatin1Char('~'), missing);
+    arguments.replaceInStrings(QStringLiteral("@"), damaged).replaceInStrings(QStringLiteral("%"), demo);
+    arguments.replaceInStrings(QStringLiteral("~"), missing);
+
+    QProcess run;
+    run.setWorkingDirectory(dir.path());
+    run.start(program, arguments);
+    QVERIFY(run.waitForFinished(30000));
+    const QString err = QString::fromLocal8Bit(run.readAllStandardError());
+    QCOMPARE(run.exitCode(), status);
+    QVERIFY2(err.contains(said), qPrintable(err));
+    if (status == 3)
+        QCOMPARE(err.count(QLatin1Char('\n')), 1);
+    QVERIFY(run.readAllStandardOutput().isEmpty());
+    // Nothing made, nothing changed.
+    QCOMPARE(hashOf(damaged) + hashOf(demo), before);
+    QVERIFY(!QFileInfo::exists(missing));
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::NoDotAndDotDot).size(),
+             QFileInfo::exists(demo) ? 2 : 1);
 }
 
 QTEST_MAIN(TestHost)

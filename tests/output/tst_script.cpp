@@ -1,14 +1,17 @@
 #include "transcript.h"
 
 #include <scriptgenerator.h>
+#include <suiteenvironment.h>
+
+#include <VKD_H_PluginParameter.h>
+#include <VKD_H_ZOBDoc.h>
+#include <vkd_dbo.h>
 
 #include <QtTest>
 
 #include <map>
 
 using namespace vkd::plib::widgetgraphicaloutput;
-
-Q_DECLARE_METATYPE(OutputSettings)
 
 namespace {
 
@@ -33,7 +36,7 @@ public:
 const std::vector<QString> twoPlots{QStringLiteral("VIEW EG3"), QStringLiteral("LC 1 ; QUAD TYPE MY")};
 
 // Settings from words such as "de format=1 view=2": "de" for German keywords, "noformat" for a
-// page without the format group, else a field and its number or text.
+// page without the format group, "fill" for filled areas, else a field and its number or text.
 OutputSettings settingsOf(const QString& words, bool* english, QString* additional)
 {
     OutputSettings s;
@@ -50,6 +53,8 @@ OutputSettings settingsOf(const QString& words, bool* english, QString* addition
             *english = false;
         else if (key == "noformat")
             s.hasFormat = false;
+        else if (key == "fill")
+            s.fillAreas = true;
         else if (key == "variant")
             s.variant = VKD_P_WidgetGraphicalOutput_Progname(value.toInt());
         else if (numbers.count(key))
@@ -96,48 +101,37 @@ private slots:
     void sharedTexts_data();
     void sharedTexts();
     void projectAskedOnlyForLines();
+    void environmentOfAProject();
+    void camera_data();
+    void camera();
 };
 
 void ScriptTest::fullScript_data()
 {
-    QTest::addColumn<OutputSettings>("settings");
+    QTest::addColumn<QString>("settings");
     QTest::addColumn<bool>("quads");
-    QTest::addColumn<QString>("additional");
-    QTest::addColumn<bool>("english");
     QTest::addColumn<QString>("reference");
-
-    const OutputSettings defaults;
-    QTest::newRow("defaults, English") << defaults << false << QString() << true << "script_default_en.txt";
-    QTest::newRow("defaults, German") << defaults << false << QString() << false << "script_default_de.txt";
-
-    OutputSettings prefix;
-    prefix.variant = GraphicalOutputPrefix;
-    prefix.viewId = ViewXY;
-    prefix.fillAreas = true;
-    prefix.scaleMode = EngineeringScale;
-    prefix.scaleIndex = 8;
-    prefix.scaleText = QStringLiteral("1:100");
-    QTest::newRow("prefix, quads, fill, German") << prefix << true << "LF 7\n"
-                                                 << false << "script_prefix_de.txt";
-
-    OutputSettings landscape;
-    landscape.formatId = Landscape;
-    landscape.viewId = ViewUserDefined;
-    landscape.fillAreas = true;
+    QTest::newRow("defaults, English") << "" << false << "script_default_en.txt";
+    QTest::newRow("defaults, German") << "de" << false << "script_default_de.txt";
+    QTest::newRow("prefix, quads, fill, German")
+        << "de variant=222 view=0 fill scale=0 index=8 text=1:100 add=LF_7\n"
+        << true << "script_prefix_de.txt";
     QTest::newRow("landscape, user view, additional, English")
-        << landscape << true << "PLOT EXTRA" << true << "script_landscape_en.txt";
+        << "format=1 view=4 fill add=PLOT_EXTRA" << true << "script_landscape_en.txt";
 }
 
 void ScriptTest::fullScript()
 {
-    QFETCH(OutputSettings, settings);
+    QFETCH(QString, settings);
     QFETCH(bool, quads);
-    QFETCH(QString, additional);
-    QFETCH(bool, english);
     QFETCH(QString, reference);
+    bool english;
+    QString additional;
+    const OutputSettings s = settingsOf(settings, &english, &additional);
     FixedEnvironment environment;
     environment.quads = quads;
-    QVERIFY(matchesReference(script(settings, twoPlots, additional, english, environment), reference));
+    additional.replace(QLatin1Char('_'), QLatin1Char(' '));
+    QVERIFY(matchesReference(script(s, twoPlots, additional, english, environment), reference));
 }
 
 // The page setup, the font statement and a plot line as the view makes it; on the split page the
@@ -214,6 +208,64 @@ void ScriptTest::projectAskedOnlyForLines()
         QStringLiteral("PRE\n"), true, environment);
     QCOMPARE(environment.asked, 4);
     QCOMPARE(plotLines(text), QStringLiteral("PRE\nP TYPE STAN X 0.5 Y -0.5 Z 0.7071\nLC 4 DESI 4\n"));
+}
+
+// The project's file name in the opening lines, the quads of its model; without a project
+// neither.
+void ScriptTest::environmentOfAProject()
+{
+    QCOMPARE(vkd::dbo::currentProject(), 0); // none open yet: the scratch database
+    QTemporaryDir dir;
+    VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("bridge.vkd")));
+    VKD_H_PluginParameter parameter(&doc);
+    const SuiteScriptEnvironment environment(&parameter);
+    QCOMPARE(environment.programStart(),
+             QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n$ Graphical Output: bridge.vkd\n"));
+    QCOMPARE(environment.programEnd(true) + environment.programEnd(false), QStringLiteral("ENDENDE"));
+    QVERIFY(!environment.modelHasQuads());
+    vkd::dbo::writeAll(doc.index(), vkd::dbo::KeyQuads,
+                       std::vector<vkd::dbo::ElementRecord>{{1, 1, {1, 2, 3, 4}}});
+    QVERIFY(environment.modelHasQuads());
+    const SuiteScriptEnvironment none(nullptr);
+    QCOMPARE(none.programStart(), QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n"));
+    QVERIFY(!none.modelHasQuads());
+}
+
+// The stored camera as the script's standpoint and as stored again; one that does not parse is
+// not stored.
+void ScriptTest::camera_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("persistent");
+    QTest::newRow("from above") << "17 90 2 0 0"
+                                << "X 0 Y 0 Z 1"
+                                << "17 90 2 0 0";
+    QTest::newRow("turned, zoomed, panned") << "30  25 1.5 0.1 -0.2"
+                                            << "X 0.4532 Y -0.7849 Z 0.4226"
+                                            << "30 25 1.5 0.1 -0.2";
+    QTest::newRow("four numbers") << "30 25 1 0"
+                                  << ""
+                                  << "";
+    QTest::newRow("no zoom") << "30 25 0 0 0"
+                             << ""
+                             << "";
+    QTest::newRow("not a number") << "30 25 x 0 0"
+                                  << ""
+                                  << "";
+}
+
+void ScriptTest::camera()
+{
+    QFETCH(QString, stored);
+    QFETCH(QString, script);
+    QFETCH(QString, persistent);
+    QTemporaryDir dir;
+    VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("p.vkd")));
+    VKD_H_PluginParameter parameter(&doc);
+    vkd::dbo::setAnimatorPerspektive(0, stored);
+    QCOMPARE(SuiteScriptEnvironment(&parameter).userCamera(), script);
+    QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, vkd::dbo::CameraPersistentForm), persistent);
 }
 
 QTEST_GUILESS_MAIN(ScriptTest)
