@@ -11,15 +11,11 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     // clang-format off
     const char* const scenarios[][2] = {
-        {"two buttons", "init"},
         {"load cases, no list", "lf:"},
-        {"load cases 9 and 3", "lf:9,3"},
         {"load cases, every id backwards with 0, 1, 2 and 10", "lf:10,9,8,7,6,5,4,3,2,1,0"},
         {"load cases, an id asked twice", "lf:5,4,5"},
-        {"echo output", "echo"},
         {"a second init changes nothing", "init init lf:4 echo use:null click:2"},
         {"two buttons: All, Manually, and Manually again", "init use:edit click:2 click:1 click:1"},
-        {"two buttons wired with no widget", "init use:null click:1 click:2"},
         {"two buttons not wired", "init click:2 select:1"},
         {"two buttons wired twice", "init use:edit use:edit click:2"},
         {"load cases, each button",

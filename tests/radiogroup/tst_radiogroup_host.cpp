@@ -1,9 +1,16 @@
 // Runs the host program that uses the group through libvkd_p_fea.so on a desktop of each
-// language and compares what it prints with a reference file.
+// language and compares what it prints with a reference file; and what stays when the group
+// goes: the row of the echo output belongs to whoever takes it.
+#include "VKD_P_RadioGroupImpl.h"
 #include "reference.h"
 
+#include <QPointer>
 #include <QProcess>
+#include <QRadioButton>
+#include <QVBoxLayout>
 #include <QtTest>
+
+#include <memory>
 
 class TestRadioGroupHost : public QObject
 {
@@ -13,10 +20,10 @@ private slots:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("reference");
-        // clang-format off
-        QTest::newRow("English desktop") << "1" << "host_en.txt";
-        QTest::newRow("German desktop") << "0" << "host_de.txt";
-        // clang-format on
+        QTest::newRow("English desktop") << "1"
+                                         << "host_en.txt";
+        QTest::newRow("German desktop") << "0"
+                                        << "host_de.txt";
     }
 
     void transcript()
@@ -32,6 +39,40 @@ private slots:
         QVERIFY(host.waitForFinished(60000));
         QCOMPARE(host.exitCode(), 0);
         QVERIFY(matchesReference(QString::fromUtf8(host.readAllStandardOutput()), reference));
+    }
+
+    // The row has no parent of its own: whoever takes it keeps it, and a row nobody took goes with
+    // the group. A host that goes first takes the row along, and the group must not touch it then.
+    void rowOwnership_data()
+    {
+        QTest::addColumn<QString>("host");
+        QTest::addColumn<bool>("rowStays");
+        QTest::newRow("never taken: goes with the group") << "none" << false;
+        QTest::newRow("in the host's layout: stays") << "layout" << true;
+        QTest::newRow("set on a panel: stays") << "panel" << true;
+        QTest::newRow("host gone before the group") << "gone" << false;
+    }
+    void rowOwnership()
+    {
+        QFETCH(QString, host);
+        QFETCH(bool, rowStays);
+        auto dialog = std::make_unique<QWidget>();
+        auto* outer = new QVBoxLayout(dialog.get());
+        auto group = std::make_unique<VKD_P_RadioGroup>();
+        group->initEchoOutput(dialog.get());
+        const QPointer<QLayout> row = group->layout();
+        if (host == QLatin1String("layout") || host == QLatin1String("gone"))
+            outer->addLayout(row);
+        else if (host == QLatin1String("panel"))
+            (new QWidget(dialog.get()))->setLayout(row);
+        if (host == QLatin1String("gone"))
+            dialog.reset();
+        group.reset();
+        QCOMPARE(!row.isNull(), rowStays);
+        if (rowStays)
+            QCOMPARE(row->count(), 4); // three buttons and the spacer
+        if (dialog)
+            QCOMPARE(dialog->findChildren<QRadioButton*>().size(), 3);
     }
 };
 
