@@ -108,14 +108,18 @@ private slots:
     {
         QTest::addColumn<QString>("steps");
         QTest::addColumn<QString>("picked");
-        QTest::newRow("click") << "click 115" << "1";
-        QTest::newRow("click replaces") << "click 115, click 285" << "2";
-        QTest::newRow("ctrl adds") << "click 115, ctrl 285" << "1 2";
-        QTest::newRow("ctrl removes") << "click 115, ctrl 285, ctrl 115" << "2";
-        QTest::newRow("click beside clears") << "click 115, click 5" << "";
-        QTest::newRow("rectangle") << "drag 20 380" << "1 2";
-        QTest::newRow("rectangle over one") << "drag 20 200" << "1";
-        QTest::newRow("ctrl rectangle adds") << "click 285, ctrldrag 20 200" << "1 2";
+        QTest::newRow("click replaces") << "click 115, click 285"
+                                        << "2";
+        QTest::newRow("ctrl adds") << "click 115, ctrl 285"
+                                   << "1 2";
+        QTest::newRow("ctrl removes") << "click 115, ctrl 285, ctrl 115"
+                                      << "2";
+        QTest::newRow("click beside clears") << "click 115, click 5"
+                                             << "";
+        QTest::newRow("rectangle over one") << "drag 20 200"
+                                            << "1";
+        QTest::newRow("ctrl rectangle adds") << "click 285, ctrldrag 20 200"
+                                             << "1 2";
     }
     void pick()
     {
@@ -134,7 +138,8 @@ private slots:
         view.grab();
         for (const QString& step : steps.split(QStringLiteral(", "))) {
             const QStringList w = step.split(QLatin1Char(' '));
-            const auto modifiers = w[0].startsWith(QLatin1String("ctrl")) ? Qt::ControlModifier : Qt::NoModifier;
+            const auto modifiers =
+                w[0].startsWith(QLatin1String("ctrl")) ? Qt::ControlModifier : Qt::NoModifier;
             const QPoint from(w[1].toInt(), w[0].endsWith(QLatin1String("drag")) ? 5 : 100);
             const QPoint to = w.size() > 2 ? QPoint(w[2].toInt(), 195) : from;
             QTest::mousePress(&view, Qt::LeftButton, modifiers, from);
