@@ -108,18 +108,14 @@ private slots:
     {
         QTest::addColumn<QString>("steps");
         QTest::addColumn<QString>("picked");
-        QTest::newRow("click replaces") << "click 115, click 285"
-                                        << "2";
-        QTest::newRow("ctrl adds") << "click 115, ctrl 285"
-                                   << "1 2";
-        QTest::newRow("ctrl removes") << "click 115, ctrl 285, ctrl 115"
-                                      << "2";
-        QTest::newRow("click beside clears") << "click 115, click 5"
-                                             << "";
-        QTest::newRow("rectangle over one") << "drag 20 200"
-                                            << "1";
-        QTest::newRow("ctrl rectangle adds") << "click 285, ctrldrag 20 200"
-                                             << "1 2";
+        const char* rows[][3] = {{"click replaces", "click 115, click 285", "2"},
+                                 {"ctrl adds", "click 115, ctrl 285", "1 2"},
+                                 {"ctrl removes", "click 115, ctrl 285, ctrl 115", "2"},
+                                 {"click beside clears", "click 115, click 5", ""},
+                                 {"rectangle over one", "drag 20 200", "1"},
+                                 {"ctrl rectangle adds", "click 285, ctrldrag 20 200", "1 2"}};
+        for (const auto& r : rows)
+            QTest::newRow(r[0]) << QString(r[1]) << QString(r[2]);
     }
     void pick()
     {
