@@ -84,252 +84,243 @@ class TestHost : public QObject
 {
     Q_OBJECT
 private slots:
-    void batchScript_data();
-    void batchScript();
-    void statesKeptAcrossStarts();
-    void cancelWritesNothing();
-    void scriptThatCannotBeWritten();
-    void contentSwitch_data();
-    void contentSwitch();
-    void newRowComesIntoSight();
-    void badInput_data();
-    void badInput();
-};
-
-void TestHost::batchScript_data()
-{
-    QTest::addColumn<QString>("keywords");
-    QTest::newRow("English keywords") << "en";
-    QTest::newRow("German keywords") << "de";
-}
-
-void TestHost::batchScript()
-{
-    QFETCH(QString, keywords);
-    Project project;
-    const QByteArray before = project.hash();
-    QProcess host;
-    host.start(QStringLiteral(PLIB_HOST), {"--script-language", keywords, "--script", "-", project.path});
-    QVERIFY(host.waitForFinished(30000));
-    QCOMPARE(host.exitCode(), 0);
-    QVERIFY(matchesReference(QString::fromUtf8(host.readAllStandardOutput()), "demo-" + keywords + ".grav"));
-    QCOMPARE(project.hash(), before);
-}
-
-// The content choice comes back before the tree's choice, so that a ticked plot of switched-on
-// content stays ticked and in the script.
-void TestHost::statesKeptAcrossStarts()
-{
-    Project project;
-    QString script;
+    void batchScript_data()
     {
-        VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
-        PlibHostDialog host(&doc);
-        changePages(host);
-        script = PlibHostDialog::script(host.outputPage(), true);
-        QString error;
-        QCOMPARE(host.save(&error), PlibHostDialog::Saved);
-        QCOMPARE(readFile(host.scriptPath(host.outputPage())), script);
+        QTest::addColumn<QString>("keywords");
+        QTest::newRow("English keywords") << "en";
+        QTest::newRow("German keywords") << "de";
     }
-    QVERIFY(script.contains(QLatin1String("SIZE URS SC 0 MARG NO FORM STAN\n")));
-    QVERIFY(script.contains(QLatin1String("TEND QUAD GEOM YES NUMB YES")));
-    QVERIFY(script.contains(QLatin1String("LC 3")) && !script.contains(QLatin1String("LC 4")));
-    VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
-    PlibHostDialog host(&doc);
-    QVERIFY(radio(host.outputPage(), "FormatGroup", 1)->isChecked());
-    QCOMPARE(host.outputContent()->choice(), int(ContentTagSwitch::Prestressing));
-    QVERIFY(host.outputContent()->group()->getRadioButton(ContentTagSwitch::Prestressing)->isChecked());
-    QCOMPARE(host.splitContent()->choice(), int(ContentTagSwitch::ModelOnly));
-    QCOMPARE(PlibHostDialog::script(host.outputPage(), true), script);
-    QCOMPARE(host.preview()->text(), script);
-}
 
-void TestHost::cancelWritesNothing()
-{
-    Project project;
-    const QByteArray before = project.hash();
+    void batchScript()
     {
-        VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
-        PlibHostDialog host(&doc);
-        changePages(host);
-        QTimer::singleShot(0, &host, &QDialog::reject);
-        QCOMPARE(host.exec(), int(QDialog::Rejected));
+        QFETCH(QString, keywords);
+        Project project;
+        const QByteArray before = project.hash();
+        QProcess host;
+        host.start(QStringLiteral(PLIB_HOST), {"--script-language", keywords, "--script", "-", project.path});
+        QVERIFY(host.waitForFinished(30000));
+        QCOMPARE(host.exitCode(), 0);
+        QVERIFY(
+            matchesReference(QString::fromUtf8(host.readAllStandardOutput()), "demo-" + keywords + ".grav"));
+        QCOMPARE(project.hash(), before);
     }
-    QCOMPARE(project.hash(), before);
-    QCOMPARE(QDir(project.dir.path()).entryList(QDir::Files), QStringList{"demo.vkd"});
-}
 
-// The project keeps what was done; the message names the script's file and the dialog closes.
-void TestHost::scriptThatCannotBeWritten()
-{
-    Project project;
-    QVERIFY(QDir(project.dir.path()).mkdir(QStringLiteral("demo.grav")));
-    VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
-    PlibHostDialog host(&doc);
-    changePages(host);
-    QString said;
-    QTimer::singleShot(0, &host, &QDialog::accept);
-    QTimer::singleShot(50, [&] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            said = box->text();
-            box->accept();
+    // The content choice comes back before the tree's choice, so that a ticked plot of switched-on
+    // content stays ticked and in the script.
+    void statesKeptAcrossStarts()
+    {
+        Project project;
+        QString script;
+        {
+            VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
+            PlibHostDialog host(&doc);
+            changePages(host);
+            script = PlibHostDialog::script(host.outputPage(), true);
+            QString error;
+            QCOMPARE(host.save(&error), PlibHostDialog::Saved);
+            QCOMPARE(readFile(host.scriptPath(host.outputPage())), script);
         }
-    });
-    QCOMPARE(host.exec(), int(QDialog::Accepted));
-    QVERIFY2(said.contains(QDir::toNativeSeparators(project.dir.filePath("demo.grav"))) &&
-                 said.contains(QLatin1String("The project was saved.")),
-             qPrintable(said));
-    VKD_H_ZOBDoc reopened(project.path, VKD_H_ZOBDoc::OpenExisting);
-    PlibHostDialog again(&reopened);
-    QVERIFY(radio(again.outputPage(), "FormatGroup", 1)->isChecked());
-}
-
-void TestHost::contentSwitch_data()
-{
-    QTest::addColumn<bool>("split");
-    QTest::addColumn<int>("choice");
-    QTest::addColumn<QStringList>("offered");
-    QTest::addColumn<QStringList>("notOffered");
-    QTest::newRow("prestressing, graphical output")
-        << false << int(ContentTagSwitch::Prestressing)
-        << QStringList{"Prestressing", "Tendons in quad elements", "Tendons in beams", "Prestressing force"}
-        << QStringList{"Brick elements", "Section cuts"};
-    QTest::newRow("section cuts, graphical output")
-        << false << int(ContentTagSwitch::SectionCuts) << QStringList{"Position of the cuts", "Section cuts"}
-        << QStringList{"Tendons in quad elements"};
-    // The split page offers the structure of bricks, not their results.
-    QTest::newRow("bricks, page splitting")
-        << true << int(ContentTagSwitch::Bricks) << QStringList{"Brick elements"} << QStringList{"Bricks"};
-}
-
-// A click offers the plots of that content at once, a click on "What the model holds" takes
-// them away again; the other page keeps to its model.
-void TestHost::contentSwitch()
-{
-    QFETCH(bool, split);
-    QFETCH(int, choice);
-    QFETCH(QStringList, offered);
-    QFETCH(QStringList, notOffered);
-    Project project;
-    VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
-    PlibHostDialog host(&doc);
-    VKD_P_WidgetGraphicalOutput* page = split ? host.splitPage() : host.outputPage();
-    ContentTagSwitch* content = split ? host.splitContent() : host.outputContent();
-    QCOMPARE(content->group()->objectName(), QLatin1String(split ? "splitContent" : "outputContent"));
-    const QStringList before = captions(page);
-    for (const QString& caption : offered + notOffered)
-        QVERIFY2(!before.contains(caption), qPrintable(caption));
-    content->group()->getRadioButton(choice)->click();
-    QCOMPARE(content->choice(), choice);
-    const QStringList switched = captions(page);
-    for (const QString& caption : offered + notOffered)
-        QVERIFY2(switched.contains(caption) == offered.contains(caption), qPrintable(caption));
-    QVERIFY(!captions(split ? host.outputPage() : host.splitPage()).contains(offered.first()));
-    content->group()->getRadioButton(ContentTagSwitch::ModelOnly)->click();
-    QCOMPARE(captions(page), before);
-}
-
-// However many rows the table has, a new one is current on its type cell and visible, and the
-// rows the user selected stay selected.
-void TestHost::newRowComesIntoSight()
-{
-    Project project;
-    VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
-    PlibHostDialog host(&doc);
-    host.resize(900, 480);
-    host.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&host));
-    auto* table = host.designPage()->findChild<QTableWidget*>();
-    auto* newButton = host.designPage()->findChild<QAbstractButton*>(QStringLiteral("btnNew"));
-    QVERIFY(table && newButton);
-    table->selectRow(2);
-    const int typeColumn = 1;
-    bool scrolled = false;
-    for (int added = 1; added <= 8; ++added) {
-        newButton->click();
-        QCoreApplication::processEvents();
-        const int last = table->rowCount() - 1;
-        QCOMPARE(table->currentRow(), last);
-        QCOMPARE(table->currentColumn(), typeColumn);
-        const QRect cell = table->visualRect(table->model()->index(last, typeColumn));
-        QVERIFY2(table->viewport()->rect().contains(cell), qPrintable(QStringLiteral("row %1").arg(last)));
-        scrolled = scrolled || table->verticalScrollBar()->value() > 0;
-        QCOMPARE(table->selectionModel()->selectedRows().size(), 1);
-        QCOMPARE(table->selectionModel()->selectedRows().first().row(), 2);
+        QVERIFY(script.contains(QLatin1String("SIZE URS SC 0 MARG NO FORM STAN\n")));
+        QVERIFY(script.contains(QLatin1String("TEND QUAD GEOM YES NUMB YES")));
+        QVERIFY(script.contains(QLatin1String("LC 3")) && !script.contains(QLatin1String("LC 4")));
+        VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
+        PlibHostDialog host(&doc);
+        QVERIFY(radio(host.outputPage(), "FormatGroup", 1)->isChecked());
+        QCOMPARE(host.outputContent()->choice(), int(ContentTagSwitch::Prestressing));
+        QVERIFY(host.outputContent()->group()->getRadioButton(ContentTagSwitch::Prestressing)->isChecked());
+        QCOMPARE(host.splitContent()->choice(), int(ContentTagSwitch::ModelOnly));
+        QCOMPARE(PlibHostDialog::script(host.outputPage(), true), script);
+        QCOMPARE(host.preview()->text(), script);
     }
-    // Else the table was tall enough for all rows, and nothing above was shown.
-    QVERIFY(scrolled);
-}
 
-void TestHost::badInput_data()
-{
-    // "@" stands for a damaged project file in the test's folder, "%" for the demo project,
-    // "~" for a folder that is not there. Usage errors (2) name the option; failures (3) give
-    // one line naming the file.
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("said");
-    const QString host = QStringLiteral(PLIB_HOST);
-    const QString tool = QStringLiteral(PROJECT_TOOL);
-    QTest::newRow("host, keywords without a value")
-        << host << QStringList{"@", "--script-language"} << 2 << "--script-language needs a value";
-    QTest::newRow("host, damaged project")
-        << host << QStringList{"--script", "-", "@"} << 3 << "@ is not a project file.";
-    QTest::newRow("host, batch run on a project not made yet")
-        << host << QStringList{"--script", "-", "none.vkd"} << 3
-        << "The project file none.vkd does not exist.";
-    QTest::newRow("host, script into a missing folder")
-        << host << QStringList{"--script", "~/s.grav", "%"} << 3 << "cannot write the script to ~/s.grav";
-    QTest::newRow("tool, unknown command") << tool << QStringList{"show", "@"} << 2 << "usage: plib-project";
-    QTest::newRow("tool, keys that are no numbers, checked before the file")
-        << tool << QStringList{"dump", "~/p.vkd", "200", "six"} << 2 << "usage: plib-project";
-    QTest::newRow("tool, create with two files")
-        << tool << QStringList{"create", "a.vkd", "b.vkd"} << 2 << "usage: plib-project";
-    QTest::newRow("tool, model of a damaged project")
-        << tool << QStringList{"model", "@"} << 3 << "plib-project: @ is not a project file.";
-    QTest::newRow("tool, create in a missing folder")
-        << tool << QStringList{"create", "~/p.vkd"} << 3 << "The project file ~/p.vkd cannot be created";
-}
-
-void TestHost::badInput()
-{
-    QFETCH(QString, program);
-    QFETCH(QStringList, arguments);
-    QFETCH(int, status);
-    QFETCH(QString, said);
-    QTemporaryDir dir;
-    const QString damaged = dir.filePath(QStringLiteral("damaged.vkd"));
-    const QString missing = dir.filePath(QStringLiteral("missing"));
-    const QString demo = dir.filePath(QStringLiteral("demo.vkd"));
+    void cancelWritesNothing()
     {
-        QFile f(damaged);
-        QVERIFY(f.open(QIODevice::WriteOnly) && f.write("not a project\n") > 0);
+        Project project;
+        const QByteArray before = project.hash();
+        {
+            VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
+            PlibHostDialog host(&doc);
+            changePages(host);
+            QTimer::singleShot(0, &host, &QDialog::reject);
+            QCOMPARE(host.exec(), int(QDialog::Rejected));
+        }
+        QCOMPARE(project.hash(), before);
+        QCOMPARE(QDir(project.dir.path()).entryList(QDir::Files), QStringList{"demo.vkd"});
     }
-    QString error;
-    if (arguments.contains(QStringLiteral("%")))
-        QVERIFY2(createDemoProject(demo, &error), qPrintable(error));
-    const QByteArray before = hashOf(damaged) + hashOf(demo);
-    said.replace(QLatin1Char('@'), damaged).replace(QLatin1Char('~'), missing);
-    arguments.replaceInStrings(QStringLiteral("@"), damaged).replaceInStrings(QStringLiteral("%"), demo);
-    arguments.replaceInStrings(QStringLiteral("~"), missing);
 
-    QProcess run;
-    run.setWorkingDirectory(dir.path());
-    run.start(program, arguments);
-    QVERIFY(run.waitForFinished(30000));
-    const QString err = QString::fromLocal8Bit(run.readAllStandardError());
-    QCOMPARE(run.exitCode(), status);
-    QVERIFY2(err.contains(said), qPrintable(err));
-    if (status == 3)
-        QCOMPARE(err.count(QLatin1Char('\n')), 1);
-    QVERIFY(run.readAllStandardOutput().isEmpty());
-    // Nothing made, nothing changed.
-    QCOMPARE(hashOf(damaged) + hashOf(demo), before);
-    QVERIFY(!QFileInfo::exists(missing));
-    QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::NoDotAndDotDot).size(),
-             QFileInfo::exists(demo) ? 2 : 1);
-}
+    // The project keeps what was done; the message names the script's file and the dialog closes.
+    void scriptThatCannotBeWritten()
+    {
+        Project project;
+        QVERIFY(QDir(project.dir.path()).mkdir(QStringLiteral("demo.grav")));
+        VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
+        PlibHostDialog host(&doc);
+        changePages(host);
+        QString said;
+        QTimer::singleShot(0, &host, &QDialog::accept);
+        QTimer::singleShot(50, [&] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                said = box->text();
+                box->accept();
+            }
+        });
+        QCOMPARE(host.exec(), int(QDialog::Accepted));
+        QVERIFY2(said.contains(QDir::toNativeSeparators(project.dir.filePath("demo.grav"))) &&
+                     said.contains(QLatin1String("The project was saved.")),
+                 qPrintable(said));
+        VKD_H_ZOBDoc reopened(project.path, VKD_H_ZOBDoc::OpenExisting);
+        PlibHostDialog again(&reopened);
+        QVERIFY(radio(again.outputPage(), "FormatGroup", 1)->isChecked());
+    }
+
+    void contentSwitch_data()
+    {
+        QTest::addColumn<bool>("split");
+        QTest::addColumn<int>("choice");
+        QTest::addColumn<QStringList>("offered");
+        QTest::addColumn<QStringList>("notOffered");
+        QTest::newRow("prestressing, graphical output")
+            << false << int(ContentTagSwitch::Prestressing)
+            << QStringList{"Prestressing", "Tendons in quad elements", "Tendons in beams",
+                           "Prestressing force"}
+            << QStringList{"Brick elements", "Section cuts"};
+        QTest::newRow("section cuts, graphical output")
+            << false << int(ContentTagSwitch::SectionCuts)
+            << QStringList{"Position of the cuts", "Section cuts"} << QStringList{"Tendons in quad elements"};
+        // The split page offers the structure of bricks, not their results.
+        QTest::newRow("bricks, page splitting") << true << int(ContentTagSwitch::Bricks)
+                                                << QStringList{"Brick elements"} << QStringList{"Bricks"};
+    }
+
+    // A click offers the plots of that content at once, a click on "What the model holds" takes
+    // them away again; the other page keeps to its model.
+    void contentSwitch()
+    {
+        QFETCH(bool, split);
+        QFETCH(int, choice);
+        QFETCH(QStringList, offered);
+        QFETCH(QStringList, notOffered);
+        Project project;
+        VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
+        PlibHostDialog host(&doc);
+        VKD_P_WidgetGraphicalOutput* page = split ? host.splitPage() : host.outputPage();
+        ContentTagSwitch* content = split ? host.splitContent() : host.outputContent();
+        QCOMPARE(content->group()->objectName(), QLatin1String(split ? "splitContent" : "outputContent"));
+        const QStringList before = captions(page);
+        for (const QString& caption : offered + notOffered)
+            QVERIFY2(!before.contains(caption), qPrintable(caption));
+        content->group()->getRadioButton(choice)->click();
+        QCOMPARE(content->choice(), choice);
+        const QStringList switched = captions(page);
+        for (const QString& caption : offered + notOffered)
+            QVERIFY2(switched.contains(caption) == offered.contains(caption), qPrintable(caption));
+        QVERIFY(!captions(split ? host.outputPage() : host.splitPage()).contains(offered.first()));
+        content->group()->getRadioButton(ContentTagSwitch::ModelOnly)->click();
+        QCOMPARE(captions(page), before);
+    }
+
+    // However many rows the table has, a new one is current on its type cell and visible, and the
+    // rows the user selected stay selected.
+    void newRowComesIntoSight()
+    {
+        Project project;
+        VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
+        PlibHostDialog host(&doc);
+        host.resize(900, 480);
+        host.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&host));
+        auto* table = host.designPage()->findChild<QTableWidget*>();
+        auto* newButton = host.designPage()->findChild<QAbstractButton*>(QStringLiteral("btnNew"));
+        QVERIFY(table && newButton);
+        table->selectRow(2);
+        const int typeColumn = 1;
+        bool scrolled = false;
+        for (int added = 1; added <= 8; ++added) {
+            newButton->click();
+            QCoreApplication::processEvents();
+            const int last = table->rowCount() - 1;
+            QCOMPARE(table->currentRow(), last);
+            QCOMPARE(table->currentColumn(), typeColumn);
+            const QRect cell = table->visualRect(table->model()->index(last, typeColumn));
+            QVERIFY2(table->viewport()->rect().contains(cell),
+                     qPrintable(QStringLiteral("row %1").arg(last)));
+            scrolled = scrolled || table->verticalScrollBar()->value() > 0;
+            QCOMPARE(table->selectionModel()->selectedRows().size(), 1);
+            QCOMPARE(table->selectionModel()->selectedRows().first().row(), 2);
+        }
+        // Else the table was tall enough for all rows, and nothing above was shown.
+        QVERIFY(scrolled);
+    }
+
+    void badInput_data()
+    {
+        // "@" stands for a damaged project file in the test's folder, "%" for the demo project,
+        // "~" for a folder that is not there. Usage errors (2) name the option; failures (3) give
+        // one line naming the file.
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("said");
+        const QString host = QStringLiteral(PLIB_HOST);
+        const QString tool = QStringLiteral(PROJECT_TOOL);
+        QTest::newRow("host, keywords without a value")
+            << host << QStringList{"@", "--script-language"} << 2 << "--script-language needs a value";
+        QTest::newRow("host, damaged project")
+            << host << QStringList{"--script", "-", "@"} << 3 << "@ is not a project file.";
+        QTest::newRow("host, batch run on a project not made yet")
+            << host << QStringList{"--script", "-", "none.vkd"} << 3
+            << "The project file none.vkd does not exist.";
+        QTest::newRow("host, script into a missing folder")
+            << host << QStringList{"--script", "~/s.grav", "%"} << 3 << "cannot write the script to ~/s.grav";
+        QTest::newRow("tool, unknown command")
+            << tool << QStringList{"show", "@"} << 2 << "usage: plib-project";
+        QTest::newRow("tool, keys that are no numbers, checked before the file")
+            << tool << QStringList{"dump", "~/p.vkd", "200", "six"} << 2 << "usage: plib-project";
+        QTest::newRow("tool, model of a damaged project")
+            << tool << QStringList{"model", "@"} << 3 << "plib-project: @ is not a project file.";
+        QTest::newRow("tool, create in a missing folder")
+            << tool << QStringList{"create", "~/p.vkd"} << 3 << "The project file ~/p.vkd cannot be created";
+    }
+
+    void badInput()
+    {
+        QFETCH(QString, program);
+        QFETCH(QStringList, arguments);
+        QFETCH(int, status);
+        QFETCH(QString, said);
+        QTemporaryDir dir;
+        const QString damaged = dir.filePath(QStringLiteral("damaged.vkd"));
+        const QString missing = dir.filePath(QStringLiteral("missing"));
+        const QString demo = dir.filePath(QStringLiteral("demo.vkd"));
+        {
+            QFile f(damaged);
+            QVERIFY(f.open(QIODevice::WriteOnly) && f.write("not a project\n") > 0);
+        }
+        QString error;
+        if (arguments.contains(QStringLiteral("%")))
+            QVERIFY2(createDemoProject(demo, &error), qPrintable(error));
+        const QByteArray before = hashOf(damaged) + hashOf(demo);
+        said.replace(QLatin1Char('@'), damaged).replace(QLatin1Char('~'), missing);
+        arguments.replaceInStrings(QStringLiteral("@"), damaged).replaceInStrings(QStringLiteral("%"), demo);
+        arguments.replaceInStrings(QStringLiteral("~"), missing);
+
+        QProcess run;
+        run.setWorkingDirectory(dir.path());
+        run.start(program, arguments);
+        QVERIFY(run.waitForFinished(30000));
+        const QString err = QString::fromLocal8Bit(run.readAllStandardError());
+        QCOMPARE(run.exitCode(), status);
+        QVERIFY2(err.contains(said), qPrintable(err));
+        if (status == 3)
+            QCOMPARE(err.count(QLatin1Char('\n')), 1);
+        QVERIFY(run.readAllStandardOutput().isEmpty());
+        // Nothing made, nothing changed.
+        QCOMPARE(hashOf(damaged) + hashOf(demo), before);
+        QVERIFY(!QFileInfo::exists(missing));
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::NoDotAndDotDot).size(),
+                 QFileInfo::exists(demo) ? 2 : 1);
+    }
+};
 
 QTEST_MAIN(TestHost)
 #include "tst_host.moc"

@@ -15,22 +15,14 @@ using namespace vkd::plib::widgetgraphicaloutput;
 
 namespace {
 
-// Fixed answers, and how often the project was asked.
 class FixedEnvironment : public ScriptEnvironment
 {
 public:
     bool quads = false;
-    mutable int asked = 0;
-    QString programStart() const override
-    {
-        return ++asked, QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n");
-    }
-    QString programEnd(bool english) const override
-    {
-        return ++asked, QLatin1String(english ? "END" : "ENDE");
-    }
-    bool modelHasQuads() const override { return ++asked, quads; }
-    QString userCamera() const override { return ++asked, QStringLiteral("X 0.5 Y -0.5 Z 0.7071"); }
+    QString programStart() const override { return QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n"); }
+    QString programEnd(bool english) const override { return QLatin1String(english ? "END" : "ENDE"); }
+    bool modelHasQuads() const override { return quads; }
+    QString userCamera() const override { return QStringLiteral("X 0.5 Y -0.5 Z 0.7071"); }
 };
 
 const std::vector<QString> twoPlots{QStringLiteral("VIEW EG3"), QStringLiteral("LC 1 ; QUAD TYPE MY")};
@@ -95,178 +87,141 @@ class ScriptTest : public QObject
 {
     Q_OBJECT
 private slots:
-    void fullScript_data();
-    void fullScript();
-    void parts();
-    void sharedTexts_data();
-    void sharedTexts();
-    void projectAskedOnlyForLines();
-    void environmentOfAProject();
-    void camera_data();
-    void camera();
-};
+    void fullScript_data()
+    {
+        QTest::addColumn<QString>("settings");
+        QTest::addColumn<bool>("quads");
+        QTest::addColumn<QString>("reference");
+        QTest::newRow("defaults, English") << "" << false << "script_default_en.txt";
+        QTest::newRow("defaults, German") << "de" << false << "script_default_de.txt";
+        QTest::newRow("prefix, quads, fill, German")
+            << "de variant=222 view=0 fill scale=0 index=8 text=1:100 add=LF_7\n"
+            << true << "script_prefix_de.txt";
+        QTest::newRow("landscape, user view, additional, English")
+            << "format=1 view=4 fill add=PLOT_EXTRA" << true << "script_landscape_en.txt";
+    }
 
-void ScriptTest::fullScript_data()
-{
-    QTest::addColumn<QString>("settings");
-    QTest::addColumn<bool>("quads");
-    QTest::addColumn<QString>("reference");
-    QTest::newRow("defaults, English") << "" << false << "script_default_en.txt";
-    QTest::newRow("defaults, German") << "de" << false << "script_default_de.txt";
-    QTest::newRow("prefix, quads, fill, German")
-        << "de variant=222 view=0 fill scale=0 index=8 text=1:100 add=LF_7\n"
-        << true << "script_prefix_de.txt";
-    QTest::newRow("landscape, user view, additional, English")
-        << "format=1 view=4 fill add=PLOT_EXTRA" << true << "script_landscape_en.txt";
-}
-
-void ScriptTest::fullScript()
-{
-    QFETCH(QString, settings);
-    QFETCH(bool, quads);
-    QFETCH(QString, reference);
-    bool english;
-    QString additional;
-    const OutputSettings s = settingsOf(settings, &english, &additional);
-    FixedEnvironment environment;
-    environment.quads = quads;
-    additional.replace(QLatin1Char('_'), QLatin1Char(' '));
-    QVERIFY(matchesReference(script(s, twoPlots, additional, english, environment), reference));
-}
-
-// The page setup, the font statement and a plot line as the view makes it; on the split page the
-// script, alike with and without plots (data/parts.txt).
-void ScriptTest::parts()
-{
-    QVERIFY(matchesTranscript(QStringLiteral("parts.txt"), [](const QString& input) {
+    void fullScript()
+    {
+        QFETCH(QString, settings);
+        QFETCH(bool, quads);
+        QFETCH(QString, reference);
         bool english;
         QString additional;
-        const OutputSettings s =
-            settingsOf(input.section(QStringLiteral(" : "), 0, 0), &english, &additional);
-        const QString line = input.contains(QStringLiteral(" : ")) ? input.section(QStringLiteral(" : "), 1)
-                                                                   : QStringLiteral("VIEW EG3");
-        const FixedEnvironment environment;
-        const QString split = script(s, {}, additional, english, environment);
-        if (s.variant == GraphicalOutputSplit)
-            return script(s, twoPlots, additional, english, environment) == split
-                       ? QString(split).replace('\n', '/') + " | " + fontStatement(s, english)
-                       : QStringLiteral("differs with plots");
-        const QStringList out = script(s, {line}, additional, english, environment).split('\n');
-        // The plot line stands before the closing line and the empty rest behind it.
-        return QStringList{pageSetup(s, english).replace('\n', '/'), fontStatement(s, english),
-                           out.value(out.size() - 3)}
-            .join(QStringLiteral(" | "));
-    }));
-}
+        const OutputSettings s = settingsOf(settings, &english, &additional);
+        FixedEnvironment environment;
+        environment.quads = quads;
+        additional.replace(QLatin1Char('_'), QLatin1Char(' '));
+        QVERIFY(matchesReference(script(s, twoPlots, additional, english, environment), reference));
+    }
 
-// The rows of a plot hand its text again; each line still gets its own view.
-void ScriptTest::sharedTexts_data()
-{
-    QTest::addColumn<int>("viewId");
-    QTest::addColumn<QStringList>("steps");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("rows repeat one plot's text, each replaced")
-        << int(ViewXZ) << QStringList{"c:LC 1 DESI 1", "QUAD EG3 X", "c:LC 2 DESI 2", "=", "="}
-        << "LC 1 DESI 1\nQUAD TYPE EGXZ ; PERS INFI\nLC 2 DESI 2\nQUAD TYPE EGXZ ; PERS INFI\n"
-           "QUAD TYPE EGXZ ; PERS INFI\n";
-    QTest::newRow("a text of the same length that follows is its own")
-        << int(ViewXY) << QStringList{"AAA EG3", "BBBBBBB", "AAA EG3", "CCC EG3"}
-        << "AAA TYPE EGXY ; PERS INFI\nBBBBBBB\nAAA TYPE EGXY ; PERS INFI\nCCC TYPE EGXY ; PERS INFI\n";
-    QTest::newRow("EG3 at the start stays, also when repeated")
-        << int(ViewYZ) << QStringList{"EG3 A", "=", "B EG3"} << "EG3 A\nEG3 A\nB TYPE EGYZ ; PERS INFI\n";
-}
+    // The page setup, the font statement and a plot line as the view makes it; on the split page the
+    // script, alike with and without plots (data/parts.txt).
+    void parts()
+    {
+        QVERIFY(matchesTranscript(QStringLiteral("parts.txt"), [](const QString& input) {
+            bool english;
+            QString additional;
+            const OutputSettings s =
+                settingsOf(input.section(QStringLiteral(" : "), 0, 0), &english, &additional);
+            const QString line = input.contains(QStringLiteral(" : "))
+                                     ? input.section(QStringLiteral(" : "), 1)
+                                     : QStringLiteral("VIEW EG3");
+            const FixedEnvironment environment;
+            const QString split = script(s, {}, additional, english, environment);
+            if (s.variant == GraphicalOutputSplit)
+                return script(s, twoPlots, additional, english, environment) == split
+                           ? QString(split).replace('\n', '/') + " | " + fontStatement(s, english)
+                           : QStringLiteral("differs with plots");
+            const QStringList out = script(s, {line}, additional, english, environment).split('\n');
+            // The plot line stands before the closing line and the empty rest behind it.
+            return QStringList{pageSetup(s, english).replace('\n', '/'), fontStatement(s, english),
+                               out.value(out.size() - 3)}
+                .join(QStringLiteral(" | "));
+        }));
+    }
 
-void ScriptTest::sharedTexts()
-{
-    QFETCH(int, viewId);
-    QFETCH(QStringList, steps);
-    QFETCH(QString, expected);
-    OutputSettings settings;
-    settings.viewId = viewId;
-    const QString text = scriptFromWriter(
-        settings, [&steps](ScriptLineSink& sink) { hand(sink, steps); }, QString(), true, FixedEnvironment());
-    QCOMPARE(plotLines(text), expected);
-}
+    // The rows of a plot hand its text again; each line still gets its own view.
+    void sharedTexts_data()
+    {
+        QTest::addColumn<int>("viewId");
+        QTest::addColumn<QStringList>("steps");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("rows repeat one plot's text, each replaced")
+            << int(ViewXZ) << QStringList{"c:LC 1 DESI 1", "QUAD EG3 X", "c:LC 2 DESI 2", "=", "="}
+            << "LC 1 DESI 1\nQUAD TYPE EGXZ ; PERS INFI\nLC 2 DESI 2\nQUAD TYPE EGXZ ; PERS INFI\n"
+               "QUAD TYPE EGXZ ; PERS INFI\n";
+        QTest::newRow("a text of the same length that follows is its own")
+            << int(ViewXY) << QStringList{"AAA EG3", "BBBBBBB", "AAA EG3", "CCC EG3"}
+            << "AAA TYPE EGXY ; PERS INFI\nBBBBBBB\nAAA TYPE EGXY ; PERS INFI\nCCC TYPE EGXY ; PERS INFI\n";
+        QTest::newRow("EG3 at the start stays, also when repeated")
+            << int(ViewYZ) << QStringList{"EG3 A", "=", "B EG3"} << "EG3 A\nEG3 A\nB TYPE EGYZ ; PERS INFI\n";
+    }
 
-// A script without plot lines is empty and costs the project nothing; with lines each question
-// is asked once (the user camera only for a user view).
-void ScriptTest::projectAskedOnlyForLines()
-{
-    OutputSettings settings;
-    settings.viewId = ViewUserDefined;
-    FixedEnvironment environment;
-    QCOMPARE(scriptFromWriter(
-                 settings, [](ScriptLineSink&) {}, QStringLiteral("X"), true, environment),
-             QString());
-    QCOMPARE(environment.asked, 0);
-    settings.variant = GraphicalOutputPrefix;
-    const QString text = scriptFromWriter(
-        settings,
-        [](ScriptLineSink& sink) {
-            hand(sink, {"P EG3", "c:LC 4 DESI 4"});
-        },
-        QStringLiteral("PRE\n"), true, environment);
-    QCOMPARE(environment.asked, 4);
-    QCOMPARE(plotLines(text), QStringLiteral("PRE\nP TYPE STAN X 0.5 Y -0.5 Z 0.7071\nLC 4 DESI 4\n"));
-}
+    void sharedTexts()
+    {
+        QFETCH(int, viewId);
+        QFETCH(QStringList, steps);
+        QFETCH(QString, expected);
+        OutputSettings settings;
+        settings.viewId = viewId;
+        const QString text = scriptFromWriter(
+            settings, [&steps](ScriptLineSink& sink) { hand(sink, steps); }, QString(), true,
+            FixedEnvironment());
+        QCOMPARE(plotLines(text), expected);
+    }
 
-// The project's file name in the opening lines, the quads of its model; without a project
-// neither.
-void ScriptTest::environmentOfAProject()
-{
-    QCOMPARE(vkd::dbo::currentProject(), 0); // none open yet: the scratch database
-    QTemporaryDir dir;
-    VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("bridge.vkd")));
-    VKD_H_PluginParameter parameter(&doc);
-    const SuiteScriptEnvironment environment(&parameter);
-    QCOMPARE(environment.programStart(),
-             QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n$ Graphical Output: bridge.vkd\n"));
-    QCOMPARE(environment.programEnd(true) + environment.programEnd(false), QStringLiteral("ENDENDE"));
-    QVERIFY(!environment.modelHasQuads());
-    vkd::dbo::writeAll(doc.index(), vkd::dbo::KeyQuads,
-                       std::vector<vkd::dbo::ElementRecord>{{1, 1, {1, 2, 3, 4}}});
-    QVERIFY(environment.modelHasQuads());
-    const SuiteScriptEnvironment none(nullptr);
-    QCOMPARE(none.programStart(), QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n"));
-    QVERIFY(!none.modelHasQuads());
-}
+    // The project's file name in the opening lines, the quads of its model; without a project
+    // neither.
+    void environmentOfAProject()
+    {
+        QCOMPARE(vkd::dbo::currentProject(), 0); // none open yet: the scratch database
+        QTemporaryDir dir;
+        VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("bridge.vkd")));
+        VKD_H_PluginParameter parameter(&doc);
+        const SuiteScriptEnvironment environment(&parameter);
+        QCOMPARE(environment.programStart(),
+                 QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n$ Graphical Output: bridge.vkd\n"));
+        QCOMPARE(environment.programEnd(true) + environment.programEnd(false), QStringLiteral("ENDENDE"));
+        QVERIFY(!environment.modelHasQuads());
+        vkd::dbo::writeAll(doc.index(), vkd::dbo::KeyQuads,
+                           std::vector<vkd::dbo::ElementRecord>{{1, 1, {1, 2, 3, 4}}});
+        QVERIFY(environment.modelHasQuads());
+        const SuiteScriptEnvironment none(nullptr);
+        QCOMPARE(none.programStart(), QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n"));
+        QVERIFY(!none.modelHasQuads());
+    }
 
-// The stored camera as the script's standpoint and as stored again; one that does not parse is
-// not stored.
-void ScriptTest::camera_data()
-{
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QString>("persistent");
-    QTest::newRow("from above") << "17 90 2 0 0"
-                                << "X 0 Y 0 Z 1"
-                                << "17 90 2 0 0";
-    QTest::newRow("turned, zoomed, panned") << "30  25 1.5 0.1 -0.2"
-                                            << "X 0.4532 Y -0.7849 Z 0.4226"
-                                            << "30 25 1.5 0.1 -0.2";
-    QTest::newRow("four numbers") << "30 25 1 0"
-                                  << ""
-                                  << "";
-    QTest::newRow("no zoom") << "30 25 0 0 0"
-                             << ""
-                             << "";
-    QTest::newRow("not a number") << "30 25 x 0 0"
-                                  << ""
-                                  << "";
-}
+    // The stored camera as the script's standpoint and as stored again; one that does not parse is
+    // not stored.
+    void camera_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QString>("persistent");
+        const char* rows[][4] = {{"from above", "17 90 2 0 0", "X 0 Y 0 Z 1", "17 90 2 0 0"},
+                                 {"turned, zoomed, panned", "30  25 1.5 0.1 -0.2",
+                                  "X 0.4532 Y -0.7849 Z 0.4226", "30 25 1.5 0.1 -0.2"},
+                                 {"four numbers", "30 25 1 0", "", ""},
+                                 {"no zoom", "30 25 0 0 0", "", ""},
+                                 {"not a number", "30 25 x 0 0", "", ""}};
+        for (const auto& r : rows)
+            QTest::newRow(r[0]) << QString(r[1]) << QString(r[2]) << QString(r[3]);
+    }
 
-void ScriptTest::camera()
-{
-    QFETCH(QString, stored);
-    QFETCH(QString, script);
-    QFETCH(QString, persistent);
-    QTemporaryDir dir;
-    VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("p.vkd")));
-    VKD_H_PluginParameter parameter(&doc);
-    vkd::dbo::setAnimatorPerspektive(0, stored);
-    QCOMPARE(SuiteScriptEnvironment(&parameter).userCamera(), script);
-    QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, vkd::dbo::CameraPersistentForm), persistent);
-}
+    void camera()
+    {
+        QFETCH(QString, stored);
+        QFETCH(QString, script);
+        QFETCH(QString, persistent);
+        QTemporaryDir dir;
+        VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("p.vkd")));
+        VKD_H_PluginParameter parameter(&doc);
+        vkd::dbo::setAnimatorPerspektive(0, stored);
+        QCOMPARE(SuiteScriptEnvironment(&parameter).userCamera(), script);
+        QCOMPARE(vkd::dbo::getAnimatorPerspektive(0, vkd::dbo::CameraPersistentForm), persistent);
+    }
+};
 
 QTEST_GUILESS_MAIN(ScriptTest)
 #include "tst_script.moc"
