@@ -1,4 +1,3 @@
-#include "captiontokens.h"
 #include "catalogue.h"
 #include "testsupport.h"
 
@@ -90,11 +89,6 @@ private slots:
         QTest::addColumn<QByteArrayList>("lines");
         QTest::addColumn<QStringList>("ids");
         const QString plain = QStringLiteral("    001    002    003");
-        QTest::newRow("plain captions change columns")
-            << QByteArrayList{"1|0|0|A|B|C|All|0|last|0|0| |0|G1|E1\n",
-                              "1|0|0|B|C|A|All|0|last|0|0| |0|G2|E2\n",
-                              "1|0|0|C|A|B|All|0|last|0|0| |0|G3|E3\n"}
-            << QStringList{plain, plain, plain};
         QTest::newRow("key captions come back after others")
             << QByteArrayList{"1|0|0|&ABC|@X01 one|A|All|0|last|0|0| |0|G1|E1\n",
                               "1|0|0|@X01 one|&ABC|&ABC|All|0|last|0|0| |0|G2|E2\n",
@@ -154,25 +148,6 @@ private slots:
         const GraphicalOutputRecord& r = records.front();
         const QVector<int> read{r.prog1, r.prog2, r.prog3, r.number7, r.preselect, r.viewKind, r.systemMask};
         QCOMPARE(read, QVector<int>(read.size(), value));
-    }
-
-    // Token texts kept over a run of captions give what a lookup of each gives; the same key under
-    // another sign is another text.
-    void captionsWithKeptTokenTexts()
-    {
-        const QStringList fields{"&GTK",         "^GTK",    "&GT0",    "&ABC Fallback",
-                                 "^CAR Caret?",  "$DOL",    "1 A&ABC", "U2R&ABC",
-                                 "2hC&ABC",      "B+I&ABC", "O1S&ABC", "&XYZ  Fallback ",
-                                 "@ND1   Nodes", "U2R&ABC", "^GTK",    "&GTK"};
-        TokenTexts texts;
-        QStringList kept, alone;
-        for (const QString& field : fields) {
-            kept << captionText(field, &texts);
-            alone << captionText(field);
-        }
-        QCOMPARE(kept, alone);
-        QCOMPARE(alone.at(0), QStringLiteral(" Long"));
-        QCOMPARE(alone.at(1), QStringLiteral(" c>d"));
     }
 };
 

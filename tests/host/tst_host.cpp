@@ -184,9 +184,6 @@ private slots:
             << QStringList{"Prestressing", "Tendons in quad elements", "Tendons in beams",
                            "Prestressing force"}
             << QStringList{"Brick elements", "Section cuts"};
-        QTest::newRow("section cuts, graphical output")
-            << false << int(ContentTagSwitch::SectionCuts)
-            << QStringList{"Position of the cuts", "Section cuts"} << QStringList{"Tendons in quad elements"};
         // The split page offers the structure of bricks, not their results.
         QTest::newRow("bricks, page splitting") << true << int(ContentTagSwitch::Bricks)
                                                 << QStringList{"Brick elements"} << QStringList{"Bricks"};
