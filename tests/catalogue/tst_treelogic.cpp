@@ -136,8 +136,6 @@ private slots:
         QTest::addColumn<QString>("label");
         QTest::addColumn<bool>("asks");
         QTest::addColumn<int>("second");
-        QTest::newRow("two cases and a title") << "12+14: Wind" << true << 14;
-        QTest::newRow("one case and a title") << "12 : Wind" << false << 0;
         QTest::newRow("no colon: first five characters") << "123456+8" << false << 0;
         QTest::newRow("plus in the title") << "3: 4+5" << false << 0;
         QTest::newRow("second case no number") << "5+x: y" << true << -1;
