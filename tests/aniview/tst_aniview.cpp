@@ -78,17 +78,22 @@ private slots:
                        {{4, 1, {9, 10, 0, 0}}});
         AnimatorView view(0);
         view.slotViewControl(AnimatorPlaneXY, 0.0);
-        QStringList out;
+        QStringList out, points;
         for (const DrawItem& item : scene.project(view.camera(), QSize(200, 200))) {
-            if (item.kind == DrawItem::Point)
-                continue;
-            QString text = item.kind == DrawItem::Line ? QStringLiteral("L") : item.fill.name();
+            QString text = item.kind == DrawItem::Point  ? QStringLiteral("P")
+                           : item.kind == DrawItem::Line ? QStringLiteral("L")
+                                                         : item.fill.name();
             for (int k = 0; k < item.cornerCount; ++k)
                 text += QStringLiteral(" %1,%2")
                             .arg(qRound(item.corners[k].x()))
                             .arg(qRound(item.corners[k].y()));
-            out << text;
+            (item.kind == DrawItem::Point ? points : out) << text;
         }
+        points.sort();
+        // Each node once, where it lies: the eight corners of the squares and the ends of the beam.
+        QCOMPARE(points.join(QLatin1Char('|')),
+                 QStringLiteral("P 128,128|P 128,128|P 128,72|P 128,72|P 15,100|"
+                                "P 185,100|P 72,128|P 72,128|P 72,72|P 72,72"));
         QCOMPARE(out, (QStringList{"#edc948 72,128 128,128 128,72 72,72", "L 15,100 185,100",
                                    "#ff9da7 72,128 128,128 128,72 72,72"}));
         // Picking takes the front-most element, a beam within reach, and whole elements only.

@@ -89,6 +89,10 @@ private slots:
         QTest::addColumn<QByteArrayList>("lines");
         QTest::addColumn<QStringList>("ids");
         const QString plain = QStringLiteral("    001    002    003");
+        QTest::newRow("only the third program changes")
+            << QByteArrayList{"1|0|0|A|B|C|All|0|last|0|0| |0|G1|E1\n",
+                              "1|0|5|A|B|C|All|0|last|0|0| |0|G2|E2\n"}
+            << QStringList{plain, plain};
         QTest::newRow("key captions come back after others")
             << QByteArrayList{"1|0|0|&ABC|@X01 one|A|All|0|last|0|0| |0|G1|E1\n",
                               "1|0|0|@X01 one|&ABC|&ABC|All|0|last|0|0| |0|G2|E2\n",

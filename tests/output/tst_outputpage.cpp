@@ -226,6 +226,10 @@ private slots:
         p.page->slotDefaultSettings();
         QCOMPARE(p.page->getTORVAL(false),
                  QStringLiteral("SIZE DINA \"-URS\" M 0 TEIL 2X1|SIZE DINA \"-URS\" $(XYZ) TEIL 2X1"));
+        // The tree is made wide enough for the plots' captions; the standard page's is not.
+        const QSize hint = p.tree()->sizeHint();
+        QCOMPARE(p.tree()->minimumSize(), QSize(int(hint.width() * 1.5), hint.height()));
+        QCOMPARE(Page().tree()->minimumSize(), QSize(0, 0));
         // The division list has six icons.
         QVERIFY(!pageSplitIcon(5).isNull() && pageSplitIcon(6).isNull() && pageSplitIcon(-1).isNull());
     }
