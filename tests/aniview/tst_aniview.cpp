@@ -107,6 +107,23 @@ private slots:
         QVERIFY(scene.project(view.camera(), QSize(200, 200)).empty());
     }
 
+    // Seen from above, a saddle whose diagonals lie level is shaded as the flat square beside it.
+    void saddle()
+    {
+        const std::vector<NodeRecord> nodes{{1, 0, 0, 0}, {2, 1, 0, 1}, {3, 1, 1, 0}, {4, 0, 1, 1},
+                                            {5, 2, 0, 0}, {6, 3, 0, 0}, {7, 3, 1, 0}, {8, 2, 1, 0}};
+        vkd::aniview::PreviewScene scene;
+        scene.setModel(nodes, {{1, 5, {1, 2, 3, 4}}, {2, 5, {5, 6, 7, 8}}}, {});
+        AnimatorView view(0);
+        view.slotViewControl(AnimatorPlaneXY, 0.0);
+        QStringList fills;
+        for (const DrawItem& item : scene.project(view.camera(), QSize(200, 200)))
+            if (item.kind == DrawItem::Area)
+                fills << item.fill.name();
+        QCOMPARE(fills.size(), 2);
+        QCOMPARE(fills.at(0), fills.at(1));
+    }
+
     // Two squares side by side, groups 1 and 2, seen from above in the scratch project: clicks,
     // Ctrl-clicks and a rectangle pick as a person would.
     void pick_data()

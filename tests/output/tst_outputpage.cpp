@@ -20,6 +20,7 @@
 #include <vkd_qt_xmlpart.h>
 
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -191,6 +192,16 @@ private slots:
         QCoreApplication::removeTranslator(&translator);
         QVERIFY(matchesReference(describe(p), reference));
         QVERIFY(p.page->checkVals());
+        // As laid out: the settings and the view column reach the box's right edge, and the default
+        // button stands under the box at that edge.
+        p.holder.resize(900, 700);
+        p.holder.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&p.holder));
+        const QRect box = p.get<QGroupBox>("Standard box")->geometry();
+        const QRect button = p.get<QPushButton>("Button: Default settings")->geometry();
+        QVERIFY(button.right() == box.right() && button.top() > box.bottom());
+        QCOMPARE(p.page->findChild<QLayout*>(QStringLiteral("view column"))->geometry().right(),
+                 p.get<QWidget>("GroupBox attribs")->geometry().right());
     }
 
     // Iso areas with brics but no quads. The defaults come back everywhere but in the scale list, and
