@@ -35,109 +35,104 @@ StructLineEdit fontLimits()
 
 } // namespace
 
+// Entries are numbered by place; only a click reports; an attached widget lives with its entry.
 class TestSettingsWidgets : public QObject
 {
     Q_OBJECT
 private slots:
-    void radioChoice();
-    void boxedEdit();
-    void rowCountSignal();
-    void copyNeedsSelection();
-};
-
-// Entries are numbered by place; only a click reports; an attached widget lives with its entry.
-void TestSettingsWidgets::radioChoice()
-{
-    VKD_QT_RadioButtonGroup group(QStringLiteral("T"), entries(3, 1), nullptr, "G", Qt::Vertical, -1);
-    QComboBox attached;
-    QComboBox refused;
-    group.setWidget(1, &attached);
-    group.setWidget(2, &refused);
-    std::vector<StructRadioButtonGrup> renamed = entries(3, 1);
-    renamed[2].text = QStringLiteral("renamed");
-    group.init(renamed);
-    QCOMPARE(group.getRadioButton(2)->text(), QStringLiteral("renamed"));
-    QCOMPARE(attached.parentWidget(), &group);
-    QCOMPARE(refused.parentWidget(), nullptr);
-    QSignalSpy clicks(&group, &VKD_QT_RadioButtonGroup::buttWasClicked);
-    QCOMPARE(group.selectedButton(), -1);
-    QVERIFY(!attached.isEnabled());
-    group.setButton(1);
-    QCOMPARE(group.selectedButton(), 1);
-    QVERIFY(attached.isEnabled());
-    group.setButton(7);
-    QCOMPARE(group.selectedButton(), 1);
-    group.getRadioButton(2)->click();
-    QCOMPARE(clicks.count(), 1);
-    QCOMPARE(clicks.at(0).at(0).toInt(), 2);
-    QVERIFY(!attached.isEnabled());
-}
-
-// Refused text shows red with its reason and leaves the last accepted text in force; a decimal
-// comma becomes a point when the user leaves the field.
-void TestSettingsWidgets::boxedEdit()
-{
-    StructBoxedEdit description;
-    description.label = QStringLiteral("Size : ");
-    description.toolTip = QStringLiteral("The size");
-    description.lineEdit = fontLimits();
-    VKD_H_BoxedLineEdit box(nullptr, &description, "box");
-    auto* edit = box.findChild<QLineEdit*>();
-    QCOMPARE(box.getText(), QStringLiteral("2"));
-    QCOMPARE(edit->toolTip(), QStringLiteral("The size"));
-
-    edit->selectAll();
-    QTest::keyClicks(edit, QStringLiteral("abc"));
-    QVERIFY(box.isRefused());
-    QCOMPARE(box.getText(), QStringLiteral("2"));
-    QCOMPARE(box.shownText(), QStringLiteral("abc"));
-    QVERIFY(edit->styleSheet().contains(QStringLiteral("red")));
-    QCOMPARE(edit->toolTip(), QStringLiteral("\"abc\" is not a number. 2 stays in use."));
-
-    edit->selectAll();
-    QTest::keyClicks(edit, QStringLiteral("4,5"));
-    QVERIFY(!box.isRefused());
-    QCOMPARE(edit->toolTip(), QStringLiteral("The size"));
-    emit edit->editingFinished();
-    QCOMPARE(box.getText(), QStringLiteral("4.5"));
-
-    box.setText(QStringLiteral("1000"));
-    QCOMPARE(edit->toolTip(), QStringLiteral("The value must lie between 1 and 999. 4.5 stays in use."));
-    box.setText(QString());
-    QCOMPARE(edit->toolTip(), QStringLiteral("A value is required. 4.5 stays in use."));
-    QCOMPARE(box.getText(), QStringLiteral("4.5"));
-    box.setText(QStringLiteral("7,25"));
-    QCOMPARE(box.getText(), QStringLiteral("7,25"));
-    box.setVal(3.0);
-    QCOMPARE(box.getText(), QStringLiteral("3"));
-}
-
-// The old and the new number of rows, whichever way rows come and go.
-void TestSettingsWidgets::rowCountSignal()
-{
-    VKD_H_TableWidget table(2, 1);
-    QSignalSpy counts(&table, &VKD_H_TableWidget::signal_rowCountChanged);
-    table.insertRow(1);
-    table.setRowCount(6);
-    table.removeRow(0);
-    table.setRowCount(0);
-    table.setRowCount(0);
-    QStringList seen;
-    for (const QList<QVariant>& c : counts)
-        seen << QStringLiteral("%1>%2").arg(c.at(0).toInt()).arg(c.at(1).toInt());
-    QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("2>3 3>6 6>5 5>0"));
-}
-
-// Copy in the table's menu is live only with cells selected.
-void TestSettingsWidgets::copyNeedsSelection()
-{
-    VKD_H_TableWidget table(1, 1);
-    for (bool selected : {false, true}) {
-        table.setRangeSelected(QTableWidgetSelectionRange(0, 0, 0, 0), selected);
-        QCOMPARE(std::unique_ptr<VKD_QT_Menu>(table.getContextMenu())->actions().at(0)->isEnabled(),
-                 selected);
+    void radioChoice()
+    {
+        VKD_QT_RadioButtonGroup group(QStringLiteral("T"), entries(3, 1), nullptr, "G", Qt::Vertical, -1);
+        QComboBox attached;
+        QComboBox refused;
+        group.setWidget(1, &attached);
+        group.setWidget(2, &refused);
+        std::vector<StructRadioButtonGrup> renamed = entries(3, 1);
+        renamed[2].text = QStringLiteral("renamed");
+        group.init(renamed);
+        QCOMPARE(group.getRadioButton(2)->text(), QStringLiteral("renamed"));
+        QCOMPARE(attached.parentWidget(), &group);
+        QCOMPARE(refused.parentWidget(), nullptr);
+        QSignalSpy clicks(&group, &VKD_QT_RadioButtonGroup::buttWasClicked);
+        QCOMPARE(group.selectedButton(), -1);
+        QVERIFY(!attached.isEnabled());
+        group.setButton(1);
+        QCOMPARE(group.selectedButton(), 1);
+        QVERIFY(attached.isEnabled());
+        group.setButton(7);
+        QCOMPARE(group.selectedButton(), 1);
+        group.getRadioButton(2)->click();
+        QCOMPARE(clicks.count(), 1);
+        QCOMPARE(clicks.at(0).at(0).toInt(), 2);
+        QVERIFY(!attached.isEnabled());
     }
-}
+
+    // Refused text shows red with its reason and leaves the last accepted text in force; a decimal
+    // comma becomes a point when the user leaves the field.
+    void boxedEdit()
+    {
+        StructBoxedEdit description;
+        description.label = QStringLiteral("Size : ");
+        description.toolTip = QStringLiteral("The size");
+        description.lineEdit = fontLimits();
+        VKD_H_BoxedLineEdit box(nullptr, &description, "box");
+        auto* edit = box.findChild<QLineEdit*>();
+        QCOMPARE(box.getText(), QStringLiteral("2"));
+        QCOMPARE(edit->toolTip(), QStringLiteral("The size"));
+
+        edit->selectAll();
+        QTest::keyClicks(edit, QStringLiteral("abc"));
+        QVERIFY(box.isRefused());
+        QCOMPARE(box.getText(), QStringLiteral("2"));
+        QCOMPARE(box.shownText(), QStringLiteral("abc"));
+        QVERIFY(edit->styleSheet().contains(QStringLiteral("red")));
+        QCOMPARE(edit->toolTip(), QStringLiteral("\"abc\" is not a number. 2 stays in use."));
+
+        edit->selectAll();
+        QTest::keyClicks(edit, QStringLiteral("4,5"));
+        QVERIFY(!box.isRefused());
+        QCOMPARE(edit->toolTip(), QStringLiteral("The size"));
+        emit edit->editingFinished();
+        QCOMPARE(box.getText(), QStringLiteral("4.5"));
+
+        box.setText(QStringLiteral("1000"));
+        QCOMPARE(edit->toolTip(), QStringLiteral("The value must lie between 1 and 999. 4.5 stays in use."));
+        box.setText(QString());
+        QCOMPARE(edit->toolTip(), QStringLiteral("A value is required. 4.5 stays in use."));
+        QCOMPARE(box.getText(), QStringLiteral("4.5"));
+        box.setText(QStringLiteral("7,25"));
+        QCOMPARE(box.getText(), QStringLiteral("7,25"));
+        box.setVal(3.0);
+        QCOMPARE(box.getText(), QStringLiteral("3"));
+    }
+
+    // The old and the new number of rows, whichever way rows come and go.
+    void rowCountSignal()
+    {
+        VKD_H_TableWidget table(2, 1);
+        QSignalSpy counts(&table, &VKD_H_TableWidget::signal_rowCountChanged);
+        table.insertRow(1);
+        table.setRowCount(6);
+        table.removeRow(0);
+        table.setRowCount(0);
+        table.setRowCount(0);
+        QStringList seen;
+        for (const QList<QVariant>& c : counts)
+            seen << QStringLiteral("%1>%2").arg(c.at(0).toInt()).arg(c.at(1).toInt());
+        QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("2>3 3>6 6>5 5>0"));
+    }
+
+    // Copy in the table's menu is live only with cells selected.
+    void copyNeedsSelection()
+    {
+        VKD_H_TableWidget table(1, 1);
+        for (bool selected : {false, true}) {
+            table.setRangeSelected(QTableWidgetSelectionRange(0, 0, 0, 0), selected);
+            QCOMPARE(std::unique_ptr<VKD_QT_Menu>(table.getContextMenu())->actions().at(0)->isEnabled(),
+                     selected);
+        }
+    }
+};
 
 QTEST_MAIN(TestSettingsWidgets)
 #include "tst_settingswidgets.moc"
