@@ -6,15 +6,12 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <sqlite3.h>
 
-#include <csignal>
 #include <memory>
 #include <sys/stat.h>
 
@@ -125,49 +122,28 @@ class TestZob : public QObject
 private slots:
     void init() { m_dir = std::make_unique<QTemporaryDir>(); }
 
-    void getResults_data()
-    {
-        QTest::addColumn<int>("stored"); // -1: never written, otherwise records appended
-        QTest::addColumn<int>("position");
-        QTest::addColumn<int>("result");
-        QTest::newRow("never written") << -1 << 0 << int(ZOB_NO_KEY);
-        QTest::newRow("emptied key pair") << 0 << 0 << int(ZOB_END);
-        QTest::newRow("first of three") << 3 << 0 << int(ZOB_OK);
-        QTest::newRow("third of three") << 3 << 2 << int(ZOB_OK);
-        QTest::newRow("behind the last") << 3 << 3 << int(ZOB_END);
-    }
-
-    void getResults()
-    {
-        QFETCH(int, stored);
-        QFETCH(int, position);
-        QFETCH(int, result);
-        VKD_H_ZOBDoc doc(path());
-        if (stored >= 0)
-            QCOMPARE(put(doc.index(), QByteArray(), 0), ZOB_OK);
-        for (int i = 0; i < stored; ++i)
-            QCOMPARE(put(doc.index(), record(i)), ZOB_OK);
-        char buffer[64] = {};
-        int length = sizeof buffer;
-        QCOMPARE(vkd_zob_get(doc.index(), 200, 6, buffer, &length, position), result);
-        if (result == ZOB_OK)
-            QCOMPARE(QByteArray(buffer, length), record(position));
-    }
-
-    void putPositionZeroStartsTheSequenceAnew()
+    // Position 0 starts a key pair's sequence anew, 1 appends; a key pair never written is told
+    // from one at its end.
+    void putAndGet()
     {
         VKD_H_ZOBDoc doc(path());
         const int index = doc.index();
+        char buffer[64];
+        int length = sizeof buffer;
+        QCOMPARE(vkd_zob_get(index, 200, 6, buffer, &length, 0), ZOB_NO_KEY);
+        QCOMPARE(put(index, QByteArray(), 0), ZOB_OK);
+        QCOMPARE(vkd_zob_get(index, 200, 6, buffer, &length, 0), ZOB_END);
         for (int i = 0; i < 4; ++i)
-            put(index, record(i));
+            QCOMPARE(put(index, record(i)), ZOB_OK);
+        length = sizeof buffer;
+        QCOMPARE(vkd_zob_get(index, 200, 6, buffer, &length, 3), ZOB_OK);
+        QCOMPARE(QByteArray(buffer, length), record(3));
+        QCOMPARE(vkd_zob_get(index, 200, 6, buffer, &length, 4), ZOB_END);
         QCOMPARE(put(index, record(9), 0), ZOB_OK);
-        QCOMPARE(readAll(index), QByteArrayList{record(9)});
         put(index, record(10));
         QCOMPARE(readAll(index), (QByteArrayList{record(9), record(10)}));
         QCOMPARE(put(index, QByteArray(), 0), ZOB_OK);
         QVERIFY(readAll(index).isEmpty());
-        put(index, record(11));
-        QCOMPARE(readAll(index), QByteArrayList{record(11)});
         QCOMPARE(put(index, "abcd", 2), ZOB_BAD_ARGUMENT);
     }
 
@@ -247,7 +223,6 @@ private slots:
         QTest::newRow("missing file") << "missing" << edit << "does not exist.";
         QTest::newRow("folder") << "folder" << edit << "is a folder, not a project file.";
         QTest::newRow("empty file, for editing") << "empty" << edit << "is empty; it is not a project.";
-        QTest::newRow("empty file, for reading") << "empty" << read << "is empty; it is not a project.";
         QTest::newRow("empty file, to create") << "empty" << create << "";
         QTest::newRow("text file, to create") << "text" << create << "is not a project file.";
         QTest::newRow("foreign SQLite database, to create")
@@ -332,17 +307,16 @@ private slots:
     {
         QTest::addColumn<int>("fileMode");
         QTest::addColumn<int>("folderMode");
-        QTest::addColumn<QStringList>("said");
-        QTest::newRow("write-protected file")
-            << 0444 << 0755
-            << QStringList{"opened read-only", "is open for reading only: the file is write-protected."};
+        QTest::addColumn<QString>("said"); // "@" stands for the file
+        const QString readOnly =
+            QStringLiteral("opened read-only\nThe project file @ is open for reading only: ");
+        QTest::newRow("write-protected file") << 0444 << 0755 << readOnly + "the file is write-protected.\n";
         QTest::newRow("write-protected folder")
             << 0666 << 0555
-            << QStringList{"opened read-only",
-                           "is open for reading only: its folder is write-protected, so no "
-                           "journal can be kept beside it."};
-        QTest::newRow("unreadable file") << 0000 << 0755 << QStringList{"cannot be read: Permission denied."};
-        QTest::newRow("writable project") << 0666 << 0777 << QStringList{"opened", "written"};
+            << readOnly + "its folder is write-protected, so no journal can be kept beside it.\n";
+        QTest::newRow("unreadable file")
+            << 0000 << 0755 << "refused: The project file @ cannot be read: Permission denied.\n";
+        QTest::newRow("writable project") << 0666 << 0777 << "opened\nwritten\n";
     }
 
     // Run as a second program, which drops root's rights so that the file modes count.
@@ -350,7 +324,7 @@ private slots:
     {
         QFETCH(int, fileMode);
         QFETCH(int, folderMode);
-        QFETCH(QStringList, said);
+        QFETCH(QString, said);
         const QString folder = m_dir->filePath(QStringLiteral("project"));
         QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("project")));
         const QString file = folder + QStringLiteral("/p.vkd");
@@ -359,21 +333,13 @@ private slots:
         QVERIFY(::chmod(QFile::encodeName(file).constData(), mode_t(fileMode)) == 0);
         QVERIFY(::chmod(QFile::encodeName(folder).constData(), mode_t(folderMode)) == 0);
         const Snapshot before = snapshot(folder);
-
         const Run r =
             run(QStringLiteral(ZOB_PROBE), {QStringLiteral("open"), file, QStringLiteral("nobody")});
         ::chmod(QFile::encodeName(folder).constData(), 0755);
         ::chmod(QFile::encodeName(file).constData(), 0644);
-        const QStringList lines = r.output.trimmed().split(QLatin1Char('\n'));
+        QCOMPARE(r.output, said.replace(QLatin1Char('@'), file));
         QCOMPARE(r.exitCode, 0);
-        QCOMPARE(lines.size(), said.size());
-        for (int i = 0; i < said.size(); ++i) {
-            QVERIFY2(lines.at(i).startsWith(said.at(i)) || lines.at(i).endsWith(said.at(i)),
-                     qPrintable(lines.at(i)));
-            if (lines.at(i).contains(QLatin1String("The project file")))
-                QVERIFY2(lines.at(i).contains(file), qPrintable(lines.at(i)));
-        }
-        if (said.last() != QLatin1String("written"))
+        if (!said.endsWith(QLatin1String("written\n")))
             QCOMPARE(snapshot(folder), before);
     }
 
@@ -510,37 +476,6 @@ private slots:
         QCOMPARE(r.exitCode, exitCode);
         QVERIFY2(r.output.contains(said), qPrintable(r.output));
         QCOMPARE(snapshot(folder), before);
-    }
-
-    // A create killed at any point of the time a whole run takes, or a little after, leaves no
-    // project or a whole one, never a part, and never a file that blocks the next create. The
-    // seed is printed so that a failing run can be repeated with PLIB_FAULT_SEED.
-    void killedCreate()
-    {
-        const QString tool = QStringLiteral(PROJECT_TOOL);
-        QElapsedTimer timer;
-        timer.start();
-        QCOMPARE(run(tool, {QStringLiteral("create"), path()}).exitCode, 0);
-        const double wholeUs = double(timer.nsecsElapsed() / 1000);
-        const QString design = run(tool, {QStringLiteral("design"), path()}).output;
-        const quint32 seed = qEnvironmentVariableIsSet("PLIB_FAULT_SEED")
-                                 ? quint32(qEnvironmentVariableIntValue("PLIB_FAULT_SEED"))
-                                 : QRandomGenerator::global()->generate() % 1000000;
-        qInfo("killed create: PLIB_FAULT_SEED=%u", seed);
-        QRandomGenerator random(seed);
-        for (int trial = 0; trial < 10; ++trial) {
-            const QString file = m_dir->filePath(QStringLiteral("new%1.vkd").arg(trial));
-            QProcess p;
-            p.start(tool, {QStringLiteral("create"), file});
-            p.waitForStarted();
-            QThread::usleep(ulong(random.bounded(1.2 * wholeUs)));
-            ::kill(pid_t(p.processId()), SIGKILL);
-            p.waitForFinished(20000);
-            if (QFile::exists(file))
-                QCOMPARE(run(tool, {QStringLiteral("design"), file}).output, design);
-            else
-                QCOMPARE(run(tool, {QStringLiteral("create"), file}).exitCode, 0);
-        }
     }
 };
 
