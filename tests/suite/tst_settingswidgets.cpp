@@ -1,11 +1,13 @@
 #include <VKD_H_BoxedLineEdit.h>
 #include <VKD_H_TableWidget.h>
 #include <VKD_QT_Menu.h>
+#include <VKD_QT_MessageBox.h>
 #include <VKD_QT_RadioButtonGroup.h>
 #include <vkd_h_fieldcheck.h>
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -35,11 +37,11 @@ StructLineEdit fontLimits()
 
 } // namespace
 
-// Entries are numbered by place; only a click reports; an attached widget lives with its entry.
 class TestSettingsWidgets : public QObject
 {
     Q_OBJECT
 private slots:
+    // Entries are numbered by place; only a click reports; an attached widget lives with its entry.
     void radioChoice()
     {
         VKD_QT_RadioButtonGroup group(QStringLiteral("T"), entries(3, 1), nullptr, "G", Qt::Vertical, -1);
@@ -131,6 +133,32 @@ private slots:
             QCOMPARE(std::unique_ptr<VKD_QT_Menu>(table.getContextMenu())->actions().at(0)->isEnabled(),
                      selected);
         }
+    }
+
+    // The boxes with button texts: Escape gives the index of the escape button, if there is one.
+    void escape_data()
+    {
+        QTest::addColumn<int>("escapeButton");
+        QTest::addColumn<int>("result");
+        QTest::newRow("first button") << 0 << 0;
+        QTest::newRow("last button") << 2 << 2;
+        QTest::newRow("none: the box stays until a button is pressed") << -1 << 1;
+    }
+
+    void escape()
+    {
+        QFETCH(int, escapeButton);
+        QFETCH(int, result);
+        QTimer::singleShot(50, [] {
+            QWidget* box = QApplication::activeModalWidget();
+            QTest::keyClick(box, Qt::Key_Escape);
+            if (QApplication::activeModalWidget() == box)
+                for (QPushButton* b : box->findChildren<QPushButton*>())
+                    if (b->text() == QLatin1String("B"))
+                        b->click();
+        });
+        QCOMPARE(VKD_QT_MessageBox::warning(nullptr, "Title", "Text", "A", "B", "C", 1, escapeButton),
+                 result);
     }
 };
 

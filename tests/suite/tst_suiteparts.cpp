@@ -1,11 +1,15 @@
-// The suite parts that the design parameters stand on: units, bar table, project pages. The
-// units of the design texts are checked with those texts; here are the other cases.
+// The suite parts that the design parameters stand on: units, bar table, project pages, group
+// names and picks. The units of the design texts are checked with those texts, the group
+// dialogs through the design page; here are the other cases.
 #include <VKD_A_BarDiameterData.h>
 #include <VKD_H_ProjectDialogPage.h>
+#include <VKD_H_SelGRP_Dialog.h>
 #include <VKD_H_UnitLabel.h>
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_dbo.h>
+#include <vkd_h_grouppick.h>
 #include <vkd_h_units.h>
+#include <vkd_qt_icon.h>
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -148,7 +152,65 @@ private slots:
         QVERIFY(never.load(m_doc->index()) && never.keys().isEmpty());
         QVERIFY(!never.load(-1));
     }
+
+    // A closed project is no longer the current one, nor is any other.
+    void closedProjectIsNotCurrent()
+    {
+        m_doc.reset();
+        QCOMPARE(vkd::dbo::currentProject(), 0);
+    }
+
+    // Secondary groups go by names of up to four bytes packed into a group number.
+    void secondaryGroupNames_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<quint32>("bits"); // 0: the name cannot be packed
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("two letters, blank padded") << "AB" << 0x20204241u << "AB";
+        QTest::newRow("four letters, inner blank") << "E GE" << 0x45472045u << "E GE";
+        QTest::newRow("five letters") << "ABCDE" << 0u << "";
+        QTest::newRow("leading blank, umlaut") << QStringLiteral(" Ä") << 0u << "";
+        QTest::newRow("stored: byte above ASCII") << "" << 0x2020E941u << "A\\xe9";
+        QTest::newRow("stored: control bytes, zero ends") << "" << 0x00410720u << "\\x07A";
+    }
+
+    void secondaryGroupNames()
+    {
+        QFETCH(QString, name);
+        QFETCH(quint32, bits);
+        int32_t number = 0;
+        if (!name.isEmpty()) {
+            QCOMPARE(vkd::dbo::packSecondaryGroupName(name, &number), bits != 0);
+            QCOMPARE(quint32(number), bits);
+        }
+        if (bits)
+            QTEST(vkd::dbo::secondaryGroupName(int32_t(bits)), "shown");
+    }
+
+    // The group pick left in a project for the group dialog, taken once.
+    void modelPick()
+    {
+        const int index = m_doc->index();
+        std::vector<int> groups{42};
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(index, groups), -1);
+        QCOMPARE(groups, std::vector<int>{42});
+        vkd_h_storeGroupPick(index, {11, 2, 0x20205853});
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(index, groups), 3);
+        QCOMPARE(groups, (std::vector<int>{11, 2, 0x20205853}));
+        vkd_h_storeGroupPick(index, {});
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(index, groups), -1);
+    }
+
+    void groupIcons()
+    {
+        for (int number : {2125, 2126}) {
+            const QIcon icon = vkd_qt_icon(number, 32);
+            QCOMPARE(icon.availableSizes(), (QList<QSize>{QSize(32, 32), QSize(64, 64)}));
+            QCOMPARE(icon.pixmap(QSize(64, 64)).size(), QSize(64, 64));
+        }
+        QVERIFY(vkd_qt_icon(2127, 32).isNull());
+    }
 };
 
-QTEST_GUILESS_MAIN(TestSuiteParts)
+QTEST_MAIN(TestSuiteParts)
 #include "tst_suiteparts.moc"

@@ -28,71 +28,58 @@ void say(const QString& text)
     std::fflush(stdout);
 }
 
-int exclusive(const char* file, unsigned long ms)
-{
-    sqlite3* db = nullptr;
-    if (sqlite3_open(file, &db) != SQLITE_OK ||
-        sqlite3_exec(db, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE;", nullptr, nullptr, nullptr) !=
-            SQLITE_OK)
-        return 1;
-    say(QStringLiteral("locked"));
-    QThread::msleep(ms);
-    sqlite3_close(db);
-    return 0;
-}
-
-int open(const char* file, bool asNobody)
-{
-    if (asNobody && geteuid() == 0 && (setgid(kNobody) != 0 || setuid(kNobody) != 0))
-        return 4;
-    VKD_H_ZOBDoc doc(QString::fromLocal8Bit(file), VKD_H_ZOBDoc::OpenExisting);
-    if (!doc.isValid()) {
-        say(QStringLiteral("refused: ") + doc.errorString());
-        return 0;
-    }
-    say(doc.isReadOnly() ? QStringLiteral("opened read-only") : QStringLiteral("opened"));
-    vkd_zob_lock_ex(doc.index(), 200, 6);
-    const int length = 4;
-    vkd_zob_put(doc.index(), 200, 6, "rec", &length, 1);
-    vkd_zob_free_ex(doc.index(), 200, 6);
-    say(doc.lastWriteError().isEmpty() ? QStringLiteral("written") : doc.lastWriteError());
-    return 0;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (argc < 3)
-        return 2;
-    const char* command = argv[1];
-    if (std::strcmp(command, "exclusive") == 0 && argc == 4)
-        return exclusive(argv[2], std::strtoul(argv[3], nullptr, 10));
-    const bool die = std::strcmp(command, "die") == 0;
-    if ((die || std::strcmp(command, "hold") == 0) && argc == 4) {
-        const QString file = QString::fromLocal8Bit(argv[2]);
-        VKD_H_ZOBDoc doc(file, VKD_H_ZOBDoc::OpenExisting);
-        if (vkd_zob_lock_ex(doc.index(), 200, 6) != ZOB_OK)
+    const QByteArray command = argc > 2 ? argv[1] : "";
+    const QString file = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString();
+    const unsigned long ms = argc > 3 ? std::strtoul(argv[3], nullptr, 10) : 0;
+    if (command == "exclusive") {
+        sqlite3* db = nullptr;
+        if (sqlite3_open(argv[2], &db) != SQLITE_OK ||
+            sqlite3_exec(db, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE;", nullptr, nullptr, nullptr) !=
+                SQLITE_OK)
             return 1;
-        // Writes on until pages of the file itself are changed: only then is the journal
-        // marked as one that must be played back.
-        auto hot = [&file] {
-            QFile journal(file + QStringLiteral("-journal"));
-            char first = 0;
-            return journal.open(QIODevice::ReadOnly) && journal.getChar(&first) && first != 0;
-        };
-        const QByteArray data(200, 'h');
-        const int length = data.size();
-        for (int i = 0; die && !hot(); ++i)
-            if (i == 100000 ||
-                vkd_zob_put(doc.index(), 200, 6, data.constData(), &length, i == 0 ? 0 : 1) != ZOB_OK)
-                return 1;
         say(QStringLiteral("locked"));
-        QThread::msleep(std::strtoul(argv[3], nullptr, 10));
-        vkd_zob_free_ex(doc.index(), 200, 6);
+        QThread::msleep(ms);
         return 0;
     }
-    if (std::strcmp(command, "open") == 0)
-        return open(argv[2], argc > 3 && std::strcmp(argv[3], "nobody") == 0);
-    return 2;
+    if (command == "open" && argc > 3 && std::strcmp(argv[3], "nobody") == 0 && geteuid() == 0 &&
+        (setgid(kNobody) != 0 || setuid(kNobody) != 0))
+        return 4;
+    VKD_H_ZOBDoc doc(file, VKD_H_ZOBDoc::OpenExisting);
+    if (command == "open") {
+        if (!doc.isValid()) {
+            say(QStringLiteral("refused: ") + doc.errorString());
+            return 0;
+        }
+        say(doc.isReadOnly() ? QStringLiteral("opened read-only") : QStringLiteral("opened"));
+        vkd_zob_lock_ex(doc.index(), 200, 6);
+        const int length = 4;
+        vkd_zob_put(doc.index(), 200, 6, "rec", &length, 1);
+        vkd_zob_free_ex(doc.index(), 200, 6);
+        say(doc.lastWriteError().isEmpty() ? QStringLiteral("written") : doc.lastWriteError());
+        return 0;
+    }
+    const bool die = command == "die";
+    if ((!die && command != "hold") || vkd_zob_lock_ex(doc.index(), 200, 6) != ZOB_OK)
+        return 2;
+    // Writes on until pages of the file itself are changed: only then is the journal marked as
+    // one that must be played back.
+    auto hot = [&file] {
+        QFile journal(file + QStringLiteral("-journal"));
+        char first = 0;
+        return journal.open(QIODevice::ReadOnly) && journal.getChar(&first) && first != 0;
+    };
+    const QByteArray data(200, 'h');
+    const int length = data.size();
+    for (int i = 0; die && !hot(); ++i)
+        if (i == 100000 ||
+            vkd_zob_put(doc.index(), 200, 6, data.constData(), &length, i == 0 ? 0 : 1) != ZOB_OK)
+            return 1;
+    say(QStringLiteral("locked"));
+    QThread::msleep(ms);
+    vkd_zob_free_ex(doc.index(), 200, 6);
+    return 0;
 }
