@@ -108,20 +108,23 @@ private slots:
         QCOMPARE(box.getText(), QStringLiteral("3"));
     }
 
-    // The old and the new number of rows, whichever way rows come and go.
+    // The old and the new number of rows, whichever way rows come and go; a row added as the
+    // user's becomes the current one, at its first cell.
     void rowCountSignal()
     {
-        VKD_H_TableWidget table(2, 1);
+        VKD_H_TableWidget table(2, 3);
         QSignalSpy counts(&table, &VKD_H_TableWidget::signal_rowCountChanged);
         table.insertRow(1);
         table.setRowCount(6);
         table.removeRow(0);
         table.setRowCount(0);
         table.setRowCount(0);
+        QCOMPARE(table.addNewRow(true), 0);
+        QCOMPARE(QPoint(table.currentColumn(), table.currentRow()), QPoint(0, 0));
         QStringList seen;
         for (const QList<QVariant>& c : counts)
             seen << QStringLiteral("%1>%2").arg(c.at(0).toInt()).arg(c.at(1).toInt());
-        QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("2>3 3>6 6>5 5>0"));
+        QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("2>3 3>6 6>5 5>0 0>1"));
     }
 
     // Copy in the table's menu is live only with cells selected.
