@@ -24,17 +24,6 @@ std::vector<StructRadioButtonGrup> entries(int count, int withWidget = -1)
     return out;
 }
 
-StructLineEdit fontLimits()
-{
-    StructLineEdit d = vkd_h_defaultLineEdit(-1);
-    d.value = 2.0;
-    d.minimum = 1.0;
-    d.maximum = 999.0;
-    d.notSetLimit = VKD_H_NOT_SET;
-    d.flags = 0;
-    return d;
-}
-
 } // namespace
 
 class TestSettingsWidgets : public QObject
@@ -45,8 +34,7 @@ private slots:
     void radioChoice()
     {
         VKD_QT_RadioButtonGroup group(QStringLiteral("T"), entries(3, 1), nullptr, "G", Qt::Vertical, -1);
-        QComboBox attached;
-        QComboBox refused;
+        QComboBox attached, refused;
         group.setWidget(1, &attached);
         group.setWidget(2, &refused);
         std::vector<StructRadioButtonGrup> renamed = entries(3, 1);
@@ -76,7 +64,13 @@ private slots:
         StructBoxedEdit description;
         description.label = QStringLiteral("Size : ");
         description.toolTip = QStringLiteral("The size");
-        description.lineEdit = fontLimits();
+        StructLineEdit& d = description.lineEdit;
+        d = vkd_h_defaultLineEdit(-1);
+        d.value = 2.0;
+        d.minimum = 1.0;
+        d.maximum = 999.0;
+        d.notSetLimit = VKD_H_NOT_SET;
+        d.flags = 0;
         VKD_H_BoxedLineEdit box(nullptr, &description, "box");
         auto* edit = box.findChild<QLineEdit*>();
         QCOMPARE(box.getText(), QStringLiteral("2"));

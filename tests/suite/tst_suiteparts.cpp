@@ -1,20 +1,21 @@
 // The suite parts that the design parameters stand on: units, bar table, project pages, group
-// names and picks. The units of the design texts are checked with those texts, the group
+// names and picks, data files. The units of the design texts are checked with those texts, the group
 // dialogs through the design page; here are the other cases.
 #include <VKD_A_BarDiameterData.h>
 #include <VKD_H_ProjectDialogPage.h>
 #include <VKD_H_SelGRP_Dialog.h>
 #include <VKD_H_UnitLabel.h>
 #include <VKD_H_ZOBDoc.h>
+#include <VKD_QT_InitTranslator.h>
 #include <vkd_dbo.h>
 #include <vkd_h_grouppick.h>
 #include <vkd_h_units.h>
+#include <vkd_q.h>
 #include <vkd_qt_icon.h>
 
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <cmath>
 #include <limits>
 #include <memory>
 
@@ -26,7 +27,17 @@ class TestSuiteParts : public QObject
     int m_projects = 0;
     std::unique_ptr<VKD_H_ZOBDoc> m_doc;
 
+    QString write(const QString& name, const QByteArray& contents)
+    {
+        QFile f(m_dir.filePath(name));
+        f.open(QIODevice::WriteOnly);
+        f.write(contents);
+        return QFileInfo(f).absoluteFilePath();
+    }
+
 private slots:
+    void initTestCase() { qputenv("VKD_SEARCHPATH", QFile::encodeName(m_dir.path())); }
+
     void init()
     {
         m_doc = std::make_unique<VKD_H_ZOBDoc>(m_dir.filePath(QStringLiteral("%1.vkd").arg(++m_projects)));
@@ -66,11 +77,9 @@ private slots:
 
     void barTable_data()
     {
-        QTest::addColumn<QString>("stored"); // "never", or diameter:name records separated by blanks
+        QTest::addColumn<QString>("stored"); // diameter:name records separated by blanks
         QTest::addColumn<QString>("loaded");
-        const QString standard = QString::fromUtf8("Ø6 Ø8 Ø10 Ø12 Ø14 Ø16 Ø20 Ø25 Ø28 Ø32 Ø40");
         // clang-format off
-        QTest::newRow("never stored") << "never" << standard;
         QTest::newRow("names of the project") << "9.5:#3 12.7:#4 15.9:#5" << "#3 #4 #5";
         QTest::newRow("order of the project") << "20: 8: 12:" << QString::fromUtf8("Ø20 Ø8 Ø12");
         QTest::newRow("bad diameters skipped") << "0:zero -6:neg 10:ten" << "ten";
@@ -82,23 +91,19 @@ private slots:
     {
         QFETCH(QString, stored);
         QFETCH(QString, loaded);
-        if (stored != QLatin1String("never")) {
-            std::vector<VKD_A_BarDiameterData::Bar> bars;
-            for (const QString& b : stored.split(QLatin1Char(' '), Qt::SkipEmptyParts))
-                bars.push_back({b.section(QLatin1Char(':'), 0, 0).toFloat(), b.section(QLatin1Char(':'), 1)});
-            VKD_A_BarDiameterData table;
-            table.setBars(bars);
-            table.save(m_doc->index());
-        }
-        VKD_A_BarDiameterData table;
-        QVERIFY(table.load(m_doc->index()));
+        std::vector<VKD_A_BarDiameterData::Bar> bars;
+        for (const QString& b : stored.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+            bars.push_back({b.section(QLatin1Char(':'), 0, 0).toFloat(), b.section(QLatin1Char(':'), 1)});
+        VKD_A_BarDiameterData table, back;
+        table.setBars(bars);
+        table.save(m_doc->index());
+        QVERIFY(back.load(m_doc->index()));
         QStringList names;
-        for (const VKD_A_BarDiameterData::Bar& b : table.bars())
+        for (const VKD_A_BarDiameterData::Bar& b : back.bars())
             names << b.name;
         QCOMPARE(names.join(QLatin1Char(' ')), loaded);
     }
 
-    // A bar goes by its name in the project's table, else by its diameter; no bar has no text.
     // Titles of model records are cut to their field, which keeps its terminating zero.
     void recordTitles()
     {
@@ -107,6 +112,7 @@ private slots:
         QCOMPARE(QByteArray(vkd::dbo::makeGroup(1, longTitle).title), QByteArray(31, 'x'));
     }
 
+    // A bar goes by its name in the project's table, else by its diameter; no bar has no text.
     void barText()
     {
         VKD_A_BarDiameterData table, loaded;
@@ -126,10 +132,11 @@ private slots:
     void projectPage_data()
     {
         QTest::addColumn<QStringList>("entries"); // key=value
+        // clang-format off
         QTest::newRow("none") << QStringList{};
-        QTest::newRow("several") << QStringList{"MerPara1=1; | 0",
-                                                "Other=", QString::fromUtf8("Stäbe=Ø10 | ß")};
+        QTest::newRow("several") << QStringList{"MerPara1=1; | 0", "Other=", QString::fromUtf8("Stäbe=Ø10 | ß")};
         QTest::newRow("long value") << QStringList{QStringLiteral("Long=") + QString(5000, QLatin1Char('y'))};
+        // clang-format on
     }
 
     // A page goes into the project under its number and comes back, replacing what it held.
@@ -209,6 +216,71 @@ private slots:
             QCOMPARE(icon.pixmap(QSize(64, 64)).size(), QSize(64, 64));
         }
         QVERIFY(vkd_qt_icon(2127, 32).isNull());
+    }
+
+    // Data files of the suite that cannot be used as they are: one warning that names the file
+    // and the line, and what can be used still is.
+    void messageCatalogue_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<QString>("warning"); // after "<file>:"; empty for none
+        const QByteArray good = "# texts of a test program\n1|ABC|Ansicht|View\n";
+        // clang-format off
+        QTest::newRow("sound file") << good << "";
+        QTest::newRow("three fields on line 3") << good + "1|ABD|Schnitt\n" << "3: not a text line \"class|key|German|English\" in UTF-8; 1 such line(s) skipped";
+        QTest::newRow("class not a number, twice") << good + "\nx|ABD|Schnitt|Section\ny|ABE|a|b\n" << "4: not a text line \"class|key|German|English\" in UTF-8; 2 such line(s) skipped";
+        QTest::newRow("Latin-1 instead of UTF-8") << good + "1|ABF|Gr\xf6\xdf" "e|Size\n" << "3: not a text line \"class|key|German|English\" in UTF-8; 1 such line(s) skipped";
+        // clang-format on
+    }
+
+    void messageCatalogue()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(QString, warning);
+        static int program = 0;
+        const QByteArray name = "prog" + QByteArray::number(++program);
+        const QString path = write(QString::fromLatin1(name + ".msg"), contents);
+        if (!warning.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(path + QLatin1Char(':') + warning));
+        vkd_lib_opentext(name.constData());
+        QCOMPARE(QString::fromStdString(vkd_lib_convtext(1, 0, "ABC")), QStringLiteral("Ansicht"));
+        QCOMPARE(QString::fromStdString(vkd_lib_convtext(1, 1, "ABD")), QString());
+    }
+
+    void translation_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<bool>("installed");
+        QFile shipped(QCoreApplication::applicationDirPath() + QStringLiteral("/data/vkd_p_dll_de.qm"));
+        QVERIFY(shipped.open(QIODevice::ReadOnly));
+        const QByteArray whole = shipped.readAll();
+        QTest::newRow("shipped translation") << whole << true;
+        QTest::newRow("shipped translation cut in half") << whole.left(whole.size() / 2) << false;
+        QTest::newRow("text file") << QByteArray("Ansicht = View\n") << false;
+    }
+
+    void translation()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(bool, installed);
+        const QString path = write(QStringLiteral("mod_de.qm"), contents);
+        if (!installed)
+            QTest::ignoreMessage(
+                QtWarningMsg,
+                qPrintable(path +
+                           QStringLiteral(": not a translation that can be loaded; the texts stay English")));
+        vkd_lib_setvalue(102, 0);
+        VKD_QT_InitTranslator translator("mod");
+        vkd_lib_setvalue(102, 1);
+        QCOMPARE(translator.isInstalled(), installed);
+    }
+
+    // Bit 1 of the mode takes the configured folders only, bit 2 those of the executable only.
+    void searchFolders()
+    {
+        const QString exe = QCoreApplication::applicationDirPath();
+        QCOMPARE(vkd_lib_searchfolders(2), QStringList({exe, exe + QStringLiteral("/data")}));
+        QVERIFY(!vkd_lib_searchfolders(1).contains(exe));
     }
 };
 
