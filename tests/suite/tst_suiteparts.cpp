@@ -132,20 +132,20 @@ private slots:
     void projectPage_data()
     {
         QTest::addColumn<QStringList>("entries"); // key=value
-        // clang-format off
         QTest::newRow("none") << QStringList{};
-        QTest::newRow("several") << QStringList{"MerPara1=1; | 0", "Other=", QString::fromUtf8("Stäbe=Ø10 | ß")};
+        QTest::newRow("several") << QStringList{"MerPara1=1; | 0",
+                                                "Other=", QString::fromUtf8("Stäbe=Ø10 | ß")};
         QTest::newRow("long value") << QStringList{QStringLiteral("Long=") + QString(5000, QLatin1Char('y'))};
-        // clang-format on
     }
 
-    // A page goes into the project under its number and comes back, replacing what it held.
+    // A page comes back from the project under its number, replacing what it held; keyless entries do not.
     void projectPage()
     {
         QFETCH(QStringList, entries);
         VKD_H_ProjectDialogPage page(3), other(4), back(3), never(9);
         for (const QString& e : entries)
             page.setEntry(e.section(QLatin1Char('='), 0, 0), e.section(QLatin1Char('='), 1));
+        page.setEntry(QString(), QStringLiteral("no key"));
         page.save(m_doc->index());
         other.setEntry(QStringLiteral("kept apart"), QStringLiteral("1"));
         other.save(m_doc->index());
