@@ -1,5 +1,6 @@
 #include <VKD_H_BoxedLineEdit.h>
 #include <VKD_H_TableWidget.h>
+#include <VKD_H_TableWidgetBox.h>
 #include <VKD_QT_Menu.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_RadioButtonGroup.h>
@@ -102,19 +103,20 @@ private slots:
         QCOMPARE(box.getText(), QStringLiteral("3"));
     }
 
-    // The old and the new number of rows, whichever way rows come and go; a row added as the
-    // user's becomes the current one, at its first cell.
+    // The old and the new number of rows, whichever way rows come and go; the box's New button
+    // adds a row that becomes the current one, at its first cell.
     void rowCountSignal()
     {
-        VKD_H_TableWidget table(2, 3);
-        QSignalSpy counts(&table, &VKD_H_TableWidget::signal_rowCountChanged);
-        table.insertRow(1);
-        table.setRowCount(6);
-        table.removeRow(0);
-        table.setRowCount(0);
-        table.setRowCount(0);
-        QCOMPARE(table.addNewRow(true), 0);
-        QCOMPARE(QPoint(table.currentColumn(), table.currentRow()), QPoint(0, 0));
+        auto* table = new VKD_H_TableWidget(2, 3);
+        VKD_H_TableWidgetBox box(table, QStringLiteral("Rows"), nullptr);
+        QSignalSpy counts(table, &VKD_H_TableWidget::signal_rowCountChanged);
+        table->insertRow(1);
+        table->setRowCount(6);
+        table->removeRow(0);
+        table->setRowCount(0);
+        table->setRowCount(0);
+        box.addButton(VKD_H_TableWidgetBox::New, true)->click();
+        QCOMPARE(QPoint(table->currentColumn(), table->currentRow()), QPoint(0, 0));
         QStringList seen;
         for (const QList<QVariant>& c : counts)
             seen << QStringLiteral("%1>%2").arg(c.at(0).toInt()).arg(c.at(1).toInt());

@@ -1,6 +1,5 @@
-// The record store, and what happens to a project when things go wrong: a write that cannot be
-// made, a file that cannot be used as it is, commands that only read, and programs that are
-// killed or get in each other's way. Every fault case checks what is on disk afterwards.
+// The record store, and projects when things go wrong: failed writes, files that cannot be used as
+// they are, commands that only read, programs in each other's way or killed; checked on disk.
 #include <VKD_H_ZOBDoc.h>
 #include <vkd_q.h>
 

@@ -2,8 +2,7 @@
 //   zob_probe exclusive <file> <ms>          holds the file exclusively, as a foreign program may
 //   zob_probe hold <file> <ms>               holds the store's write lock, writing nothing
 //   zob_probe die <file> <ms>                holds the lock in the middle of a write that has
-//                                            emptied the key pair and changed the file itself;
-//                                            the test kills it there
+//                                            changed the file itself, to be killed there
 //   zob_probe open <file> [nobody]           opens for editing (as user nobody when run by root),
 //                                            tries one write and says what happened
 #include <VKD_H_ZOBDoc.h>
