@@ -1,6 +1,7 @@
 #include <VKD_H_BoxedLineEdit.h>
 #include <VKD_H_TableWidget.h>
 #include <VKD_H_TableWidgetBox.h>
+#include <VKD_QT_Dialog.h>
 #include <VKD_QT_Menu.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_RadioButtonGroup.h>
@@ -132,6 +133,18 @@ private slots:
             QCOMPARE(std::unique_ptr<VKD_QT_Menu>(table.getContextMenu())->actions().at(0)->isEnabled(),
                      selected);
         }
+    }
+
+    // A dialog closed by callDone() for a detour says so once, with its result, when shown again.
+    void reopenAfterDetour()
+    {
+        VKD_QT_Dialog dialog;
+        QSignalSpy reopened(&dialog, &VKD_QT_Dialog::isReOpen);
+        dialog.callDone(3);
+        dialog.show();
+        dialog.hide();
+        dialog.show();
+        QCOMPARE(reopened, (QList<QVariantList>{{3}}));
     }
 
     // The boxes with button texts: Escape gives the index of the escape button, if there is one.

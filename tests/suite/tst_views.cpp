@@ -56,27 +56,17 @@ private slots:
         };
         // clang-format off
         row("nothing", "", "root0 a0 a10 a20 a30 b0 b10");
-        row("one leaf", "a2=2", "root1 a1 a10 a22 a30 b0 b10");
-        row("every leaf", "a1=2, a2=2, a3=2, b1=2", "root2 a2 a12 a22 a32 b2 b12");
         row("root carries down", "root=2", "root2 a2 a12 a22 a32 b2 b12");
-        row("leaf unchecked under checked root", "root=2, a3=0", "root1 a1 a12 a22 a30 b2 b12");
         row("partial leaf counts as partial", "b1=1", "root1 a0 a10 a20 a30 b1 b11");
-        row("back and forth", "a1=2, a1=0, a1=2, a2=2, a3=2, a=0", "root0 a0 a10 a20 a30 b0 b10");
-        row("checked newcomer", "b1=2, new c a 3 2", "root1 a1 a10 a20 a30 c2 b2 b12");
         row("unchecked newcomer under a checked parent", "root=2, new c a 3 0", "root1 a1 a12 a22 a32 c0 b2 b12");
-        row("removing a partial child", "a1=1, delete a1", "root0 a0 a20 a30 b0 b10");
         row("removing the only unchecked child", "a1=2, a2=2, delete a3", "root1 a2 a12 a22 b0 b10");
         row("off leaves states alone", "off, a1=2, a2=2, a3=2", "root0 a0 a12 a22 a32 b0 b10");
         row("switched on, brought in line at once", "off, a1=2, a2=2, a3=2, on", "root1 a2 a12 a22 a32 b0 b10");
         // What is kept of each child by row follows rows that move.
-        row("sorted, then the moved leaf unchecked", "a1=2, sort, a1=0", "root0 b0 b10 a0 a30 a20 a10");
         row("sorted, then the leaf in the checked leaf's old row checked", "a1=2, a2=2, sort, a3=2", "root1 b0 b10 a2 a32 a22 a12");
         row("row inserted in front, then the shifted leaf unchecked", "a1=2, new n a 0 0, a1=0", "root0 a0 n0 a10 a20 a30 b0 b10");
-        row("row inserted in front, then the newcomer checked", "a1=2, a2=2, a3=2, new n a 0 0, n=2", "root1 a2 n2 a12 a22 a32 b0 b10");
         row("row removed in front, then the shifted leaf unchecked", "a3=2, delete a1, a3=0", "root0 a0 a20 a30 b0 b10");
-        row("row removed in front, then the rest checked", "a1=2, delete a1, a2=2, a3=2", "root1 a2 a22 a32 b0 b10");
         row("parent emptied and filled again", "delete b1, b=2, new c b 0 0, c=2, c=0", "root0 a0 a10 a20 a30 b0 c0");
-        row("checked leaf moved to the other parent, then unchecked", "a2=2, move a2 b 0, a2=0", "root0 a0 a10 a30 b0 a20 b10");
         row("checked subtree moved under a leaf", "a=2, move a b1 0, b=0", "root0 b0 b10 a0 a10 a20 a30");
         // clang-format on
     }

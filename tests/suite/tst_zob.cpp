@@ -82,24 +82,21 @@ QString run(const QString& program, const QStringList& arguments, const QString&
            QStringLiteral("exit %1").arg(ended ? p.exitCode() : -1);
 }
 
-struct Killer
+void killAndWait(QProcess* p)
 {
-    void operator()(QProcess* p) const
-    {
-        p->kill();
-        p->waitForFinished();
-        delete p;
-    }
-};
-using Holder = std::unique_ptr<QProcess, Killer>;
+    p->kill();
+    p->waitForFinished();
+    delete p;
+}
+using Holder = std::unique_ptr<QProcess, decltype(&killAndWait)>;
 
 // The probe started and waited for until it says it holds the project; killed when dropped.
 Holder startHolder(const QString& how, const QString& file, int ms)
 {
-    Holder p(new QProcess);
+    Holder p(new QProcess, killAndWait);
     p->start(QStringLiteral(ZOB_PROBE), {how, file, QString::number(ms)});
     if (!p->waitForReadyRead(20000) || p->readLine().trimmed() != "locked")
-        return nullptr;
+        return Holder(nullptr, killAndWait);
     return p;
 }
 
@@ -220,7 +217,7 @@ private slots:
         QFETCH(int, mode);
         QFETCH(QString, message);
         const QString file = path();
-        Holder holder;
+        Holder holder(nullptr, killAndWait);
         if (kind == QLatin1String("folder")) {
             QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("project.vkd")));
         } else if (kind == QLatin1String("empty") || kind == QLatin1String("text")) {
@@ -334,7 +331,7 @@ private slots:
         const QString file = path();
         const QByteArrayList old{"old 1", "old 2"};
         QVERIFY(makeProject(file, old));
-        Holder holder;
+        Holder holder(nullptr, killAndWait);
         if (heldMs > 0) {
             holder = startHolder(QStringLiteral("hold"), file, heldMs);
             QVERIFY(holder);
