@@ -1,8 +1,18 @@
+// The unit-aware input field of the project layer, the bar combo and the reinforcement
+// calculator, driven as a user would.
+#include <VKD_A_BarDiameterCombo.h>
+#include <VKD_A_ReinforcementCalculation.h>
 #include <VKD_H_LineEdit.h>
 #include <VKD_H_TwHeaderLineEditItem.h>
+#include <VKD_H_ZOBDoc.h>
 #include <vkd_h_numbertext.h>
 
+#include <QDoubleSpinBox>
 #include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
 #include <cmath>
 
@@ -20,160 +30,267 @@ struct Field
     StructLineEdit description;
     VKD_H_LineEdit edit;
 };
+
+constexpr float kNotSet = -99999.0f;
+
+QString texts(const QComboBox& combo)
+{
+    QStringList t;
+    for (int i = 0; i < combo.count(); ++i)
+        t << combo.itemText(i);
+    return t.join(QLatin1Char(' '));
+}
+
+template <typename T> T* child(QWidget* w, const char* name)
+{
+    return w->findChild<T*>(QLatin1String(name));
+}
 } // namespace
 
 class TestLineEdit : public QObject
 {
     Q_OBJECT
+    QTemporaryDir m_dir;
+
 private slots:
-    void parseUserNumber_data();
-    void parseUserNumber();
-    void showsValueInUserUnit_data();
-    void showsValueInUserUnit();
-    void readsTypedText_data();
-    void readsTypedText();
-    void givenValueComesBackExactly();
-    void integerFieldWithoutNotSet();
-};
+    void parseUserNumber_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("value"); // NaN: refused
+        QTest::newRow("decimal point") << "0.25" << 0.25;
+        QTest::newRow("decimal comma") << "0,25" << 0.25;
+        QTest::newRow("blanks around, sign") << "  -1,5 " << -1.5;
+        QTest::newRow("typeset minus") << QString::fromUtf8("\u22122.5") << -2.5;
+        QTest::newRow("bare separators") << ",5" << 0.5;
+        QTest::newRow("plus and exponent") << "+1,5e3" << 1500.0;
+        for (const char* refused :
+             {"abc", "1e999", "nan", "inf", "1,234.5", "1.2.3", "1 000", "0x10", "3.5 cm", ""})
+            QTest::newRow(qPrintable(QStringLiteral("refused \"%1\"").arg(refused)))
+                << refused << double(NAN);
+    }
 
-void TestLineEdit::parseUserNumber_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("value"); // NaN: refused
-    QTest::newRow("decimal point") << "0.25" << 0.25;
-    QTest::newRow("decimal comma") << "0,25" << 0.25;
-    QTest::newRow("blanks around, sign") << "  -1,5 " << -1.5;
-    QTest::newRow("typeset minus") << QString::fromUtf8("\u22122.5") << -2.5;
-    QTest::newRow("bare separators") << ",5" << 0.5;
-    QTest::newRow("plus and exponent") << "+1,5e3" << 1500.0;
-    for (const char* refused :
-         {"abc", "1e999", "nan", "inf", "1,234.5", "1.2.3", "1 000", "0x10", "3.5 cm", ""})
-        QTest::newRow(qPrintable(QStringLiteral("refused \"%1\"").arg(refused))) << refused << double(NAN);
-}
+    void parseUserNumber()
+    {
+        QFETCH(QString, text);
+        QFETCH(double, value);
+        double parsed = -7.0;
+        QCOMPARE(vkd_h_parseUserNumber(text, &parsed), !std::isnan(value));
+        QCOMPARE(parsed, std::isnan(value) ? -7.0 : value);
+    }
 
-void TestLineEdit::parseUserNumber()
-{
-    QFETCH(QString, text);
-    QFETCH(double, value);
-    double parsed = -7.0;
-    QCOMPARE(vkd_h_parseUserNumber(text, &parsed), !std::isnan(value));
-    QCOMPARE(parsed, std::isnan(value) ? -7.0 : value);
-}
-
-void TestLineEdit::showsValueInUserUnit_data()
-{
-    QTest::addColumn<int>("code");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("unit");
+    void showsValueInUserUnit_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<double>("value");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("unit");
+        // clang-format off
     QTest::newRow("direction") << 5 << kPi / 2 << "90.00" << QString::fromUtf8("\u00B0");
-    QTest::newRow("coordinate") << 1001 << 4.5 << "4.500"
-                                << "m";
     QTest::newRow("reinforcement") << 1021 << 1.88e-4 << "1.88" << QString::fromUtf8("cm\u00B2/m");
-    QTest::newRow("bar diameter") << 1023 << 12.0 << "12.0"
-                                  << "mm";
-    QTest::newRow("distance") << 1024 << 0.035 << "3.5"
-                              << "cm";
-    QTest::newRow("crack width") << 1026 << 0.0003 << "0.30"
-                                 << "mm";
-    QTest::newRow("steel stress") << 1092 << 347800.0 << "347.8"
-                                  << "MPa";
-    QTest::newRow("not set") << 1024 << -99999.0 << ""
-                             << "cm";
-}
+    QTest::newRow("crack width") << 1026 << 0.0003 << "0.30" << "mm";
+    QTest::newRow("steel stress") << 1092 << 347800.0 << "347.8" << "MPa";
+    QTest::newRow("not set") << 1024 << -99999.0 << "" << "cm";
+        // clang-format on
+    }
 
-void TestLineEdit::showsValueInUserUnit()
-{
-    QFETCH(int, code);
-    QFETCH(double, value);
-    QFETCH(QString, text);
-    QFETCH(QString, unit);
-    Field f(code);
-    f.edit.setVal(value);
-    QCOMPARE(f.edit.text(), text);
-    QCOMPARE(f.edit.cursorPosition(), 0); // a long number shows its start
-    QVERIFY(f.edit.hasAcceptableInput());
-    QCOMPARE(f.edit.toolTip(), kHelp);
-    QCOMPARE(f.edit.findChild<QLabel*>(QStringLiteral("unit"))->text(), unit);
-}
+    void showsValueInUserUnit()
+    {
+        QFETCH(int, code);
+        QFETCH(double, value);
+        QFETCH(QString, text);
+        QFETCH(QString, unit);
+        Field f(code);
+        f.edit.setVal(value);
+        QCOMPARE(f.edit.text(), text);
+        QCOMPARE(f.edit.cursorPosition(), 0); // a long number shows its start
+        QVERIFY(f.edit.hasAcceptableInput());
+        QCOMPARE(f.edit.toolTip(), kHelp);
+        QCOMPARE(f.edit.findChild<QLabel*>(QStringLiteral("unit"))->text(), unit);
+    }
 
-// Limits of docs/units.md, typed in the user's unit at and beyond their ends.
-void TestLineEdit::readsTypedText_data()
-{
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("value"); // base units; for refused text the value given before
-    QTest::addColumn<QString>("problem");
-    const QString cm = QStringLiteral("The value must lie between 0.0 cm and 1000.0 cm.");
-    QTest::newRow("cm to m, comma") << 1024 << "3,5" << 0.035 << "";
-    QTest::newRow("cm to m, point") << 1024 << "3.5" << 0.035 << "";
-    QTest::newRow("degrees to radians") << 5 << "90" << kPi / 2 << "";
-    QTest::newRow("MPa to kN/m2") << 1092 << "435" << 435000.0 << "";
-    QTest::newRow("empty is not set") << 1024 << "   " << -99999.0 << "";
-    QTest::newRow("word") << 1024 << "abc" << 0.02 << "\"abc\" is not a number.";
-    QTest::newRow("infinite") << 1024 << "1e999" << 0.02 << "\"1e999\" is not a number.";
-    QTest::newRow("distance zero") << 1024 << "0" << 0.0 << "";
-    QTest::newRow("distance negative") << 1024 << "-0.1" << 0.02 << cm;
-    QTest::newRow("distance at maximum") << 1024 << "1000" << 10.0 << "";
-    QTest::newRow("distance beyond maximum") << 1024 << "1000.1" << 0.02 << cm;
-    QTest::newRow("direction at -360") << 5 << "-360" << -2 * kPi << "";
-    QTest::newRow("direction beyond 360")
-        << 5 << "360.01" << 0.02
-        << QString::fromUtf8("The value must lie between -360.00\u00B0 and 360.00\u00B0.");
-    QTest::newRow("crack width beyond 10 mm")
-        << 1026 << "10.5" << 0.02 << "The value must lie between 0.00 mm and 10.00 mm.";
-    QTest::newRow("stress beyond 2000 MPa")
-        << 1092 << "2000.5" << 0.02 << "The value must lie between 0.0 MPa and 2000.0 MPa.";
-}
+    // Limits of docs/units.md, typed in the user's unit at and beyond their ends.
+    void readsTypedText_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("value"); // base units; for refused text the value given before
+        QTest::addColumn<QString>("problem");
+        const QString cm = QStringLiteral("The value must lie between 0.0 cm and 1000.0 cm.");
+        // clang-format off
+        QTest::newRow("cm to m, comma") << 1024 << "3,5" << 0.035 << "";
+        QTest::newRow("degrees to radians") << 5 << "90" << kPi / 2 << "";
+        QTest::newRow("MPa to kN/m2") << 1092 << "435" << 435000.0 << "";
+        QTest::newRow("empty is not set") << 1024 << "   " << -99999.0 << "";
+        QTest::newRow("word") << 1024 << "abc" << 0.02 << "\"abc\" is not a number.";
+        QTest::newRow("distance zero") << 1024 << "0" << 0.0 << "";
+        QTest::newRow("distance negative") << 1024 << "-0.1" << 0.02 << cm;
+        QTest::newRow("distance at maximum") << 1024 << "1000" << 10.0 << "";
+        QTest::newRow("distance beyond maximum") << 1024 << "1000.1" << 0.02 << cm;
+        QTest::newRow("direction at -360") << 5 << "-360" << -2 * kPi << "";
+        QTest::newRow("direction beyond 360") << 5 << "360.01" << 0.02 << QString::fromUtf8("The value must lie between -360.00\u00B0 and 360.00\u00B0.");
+        // clang-format on
+    }
 
-void TestLineEdit::readsTypedText()
-{
-    QFETCH(int, code);
-    QFETCH(QString, text);
-    QFETCH(double, value);
-    QFETCH(QString, problem);
-    Field f(code);
-    f.edit.setVal(0.02);
-    f.edit.selectAll();
-    f.edit.insert(text); // as pasted: through the validator, in one step
-    QCOMPARE(f.edit.text(), text);
-    QCOMPARE(f.edit.hasAcceptableInput(), problem.isEmpty());
-    QCOMPARE(f.edit.problemText(), problem);
-    QVERIFY(qAbs(f.edit.getVal() - value) <= 1e-12 * qMax(1.0, qAbs(value)));
-    QCOMPARE(f.edit.styleSheet().contains(QLatin1String("border")), !problem.isEmpty());
-    QCOMPARE(f.edit.toolTip(), problem.isEmpty() ? kHelp : problem + QLatin1Char('\n') + kHelp);
-}
+    void readsTypedText()
+    {
+        QFETCH(int, code);
+        QFETCH(QString, text);
+        QFETCH(double, value);
+        QFETCH(QString, problem);
+        Field f(code);
+        f.edit.setVal(0.02);
+        f.edit.selectAll();
+        f.edit.insert(text); // as pasted: through the validator, in one step
+        QCOMPARE(f.edit.text(), text);
+        QCOMPARE(f.edit.hasAcceptableInput(), problem.isEmpty());
+        QCOMPARE(f.edit.problemText(), problem);
+        QVERIFY(qAbs(f.edit.getVal() - value) <= 1e-12 * qMax(1.0, qAbs(value)));
+        QCOMPARE(f.edit.styleSheet().contains(QLatin1String("border")), !problem.isEmpty());
+        QCOMPARE(f.edit.toolTip(), problem.isEmpty() ? kHelp : problem + QLatin1Char('\n') + kHelp);
+    }
 
-// The shown digits stand for the exact value given, so opening and confirming rounds nothing.
-void TestLineEdit::givenValueComesBackExactly()
-{
-    Field f(1024);
-    const double stored = double(0.0351234f);
-    f.edit.setVal(stored);
-    QCOMPARE(f.edit.text(), QStringLiteral("3.5"));
-    QCOMPARE(f.edit.getVal(), stored);
-    f.edit.setText(QStringLiteral("3.50"));
-    QCOMPARE(f.edit.getVal(), 0.035);
-    f.edit.setText(QStringLiteral("3.5"));
-    QCOMPARE(f.edit.getVal(), stored);
-    f.edit.setVal(0.035); // the same digits, another value
-    QCOMPARE(f.edit.getVal(), 0.035);
-}
+    // The shown digits stand for the exact value given, so opening and confirming rounds nothing.
+    void givenValueComesBackExactly()
+    {
+        Field f(1024);
+        const double stored = double(0.0351234f);
+        f.edit.setVal(stored);
+        QCOMPARE(f.edit.text(), QStringLiteral("3.5"));
+        QCOMPARE(f.edit.getVal(), stored);
+        f.edit.setText(QStringLiteral("3.50"));
+        QCOMPARE(f.edit.getVal(), 0.035);
+        f.edit.setText(QStringLiteral("3.5"));
+        QCOMPARE(f.edit.getVal(), stored);
+        f.edit.setVal(0.035); // the same digits, another value
+        QCOMPARE(f.edit.getVal(), 0.035);
+    }
 
-void TestLineEdit::integerFieldWithoutNotSet()
-{
-    StructLineEdit count{
-        VKD_H_LE_KIND_INTEGER, -1, 3.0, 10.0, 1.0, -99998.0, 0, QString(), QString(), QString(), {}};
-    VKD_H_LineEdit edit(nullptr, &count, "count", QStringLiteral("Layers"), QStringLiteral("How many"),
-                        false);
-    QCOMPARE(edit.text(), QStringLiteral("3"));
-    QCOMPARE(edit.whatsThis(), QStringLiteral("How many"));
-    QVERIFY(!edit.findChild<QLabel*>(QStringLiteral("unit")));
-    edit.setText(QStringLiteral("2,5"));
-    QCOMPARE(edit.problemText(), QStringLiteral("\"2,5\" is not a whole number."));
-    edit.setVal(-99999.0);
-    QCOMPARE(edit.problemText(), QStringLiteral("A value is required."));
-}
+    void integerFieldWithoutNotSet()
+    {
+        StructLineEdit count{
+            VKD_H_LE_KIND_INTEGER, -1, 3.0, 10.0, 1.0, -99998.0, 0, QString(), QString(), QString(), {}};
+        VKD_H_LineEdit edit(nullptr, &count, "count", QStringLiteral("Layers"), QStringLiteral("How many"),
+                            false);
+        QCOMPARE(edit.text(), QStringLiteral("3"));
+        QCOMPARE(edit.whatsThis(), QStringLiteral("How many"));
+        QVERIFY(!edit.findChild<QLabel*>(QStringLiteral("unit")));
+        edit.setText(QStringLiteral("2,5"));
+        QCOMPARE(edit.problemText(), QStringLiteral("\"2,5\" is not a whole number."));
+        edit.setVal(-99999.0);
+        QCOMPARE(edit.problemText(), QStringLiteral("A value is required."));
+    }
+
+    void combo_data()
+    {
+        QTest::addColumn<float>("value");
+        QTest::addColumn<QString>("shown"); // current text
+        QTest::addColumn<float>("current");
+        QTest::addColumn<QString>("entries");
+        const QString table = QString::fromUtf8("#3 Ø10 #4");
+        // clang-format off
+        // clang-format off
+        QTest::newRow("not set") << kNotSet << "" << kNotSet << table;
+        QTest::newRow("zero is no bar") << 0.0f << "" << kNotSet << table;
+        QTest::newRow("bar of the table, float noise") << 12.7004f << "#4" << 12.7f << table;
+        QTest::newRow("not in the table: kept, in order") << 11.0f << QString::fromUtf8("Ø11") << 11.0f << QString::fromUtf8("#3 Ø10 Ø11 #4");
+        QTest::newRow("beyond the largest") << 50.0f << QString::fromUtf8("Ø50") << 50.0f << QString::fromUtf8("#3 Ø10 #4 Ø50");
+        // clang-format on
+        // clang-format on
+    }
+
+    // The project's bars; a value the table lacks is shown and kept, once.
+    void combo()
+    {
+        QFETCH(float, value);
+        QFETCH(QString, shown);
+        QFETCH(float, current);
+        QFETCH(QString, entries);
+        VKD_H_ZOBDoc doc(m_dir.filePath(QStringLiteral("combo.vkd")));
+        VKD_A_BarDiameterData table;
+        table.setBars({{9.5f, QStringLiteral("#3")}, {10.0f, QString()}, {12.7f, QStringLiteral("#4")}});
+        table.save(doc.index());
+        VKD_A_BarDiameterCombo combo(nullptr, "bar");
+        QVERIFY(combo.load(doc.index()));
+        combo.setCurrent(value);
+        combo.setCurrent(value);
+        QCOMPARE(combo.currentText(), shown);
+        QCOMPARE(combo.getCurrent(), current);
+        QCOMPARE(texts(combo), entries);
+        // Without a project the 11 bars of the standard series, and the selection stays.
+        QVERIFY(!combo.load(-1));
+        QCOMPARE(combo.count(), current == kNotSet ? 11 : 12);
+        QCOMPARE(combo.getCurrent(), current);
+    }
+
+    void calculator_data()
+    {
+        QTest::addColumn<float>("bar");
+        QTest::addColumn<double>("spacing"); // cm; 0: bars per metre instead
+        QTest::addColumn<double>("count");
+        QTest::addColumn<int>("layers");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<QString>("shown"); // cross section of a bar | result | bars per metre
+        QTest::addColumn<double>("value");  // m²/m, by hand: n * pi * d² / 4
+        // clang-format off
+        // clang-format off
+        QTest::newRow("10/15") << 10.0f << 15.0 << 0.0 << 1 << true << QString::fromUtf8("0.785 cm²|5.24 cm²/m|6.67 /m") << 5.235988e-4;
+        QTest::newRow("16/12.5") << 16.0f << 12.5 << 0.0 << 1 << true << QString::fromUtf8("2.011 cm²|16.08 cm²/m|8.00 /m") << 1.6084954e-3;
+        QTest::newRow("8, 5 per metre") << 8.0f << 0.0 << 5.0 << 1 << true << QString::fromUtf8("0.503 cm²|2.51 cm²/m|5.00 /m") << 2.513274e-4;
+        QTest::newRow("20/10, two layers") << 20.0f << 10.0 << 0.0 << 2 << true << QString::fromUtf8("3.142 cm²|62.83 cm²/m|10.00 /m") << 6.2831853e-3;
+        QTest::newRow("no layers count as one") << 10.0f << 15.0 << 0.0 << 0 << true << QString::fromUtf8("0.785 cm²|5.24 cm²/m|6.67 /m") << 5.235988e-4;
+        QTest::newRow("Cancel") << 12.0f << 20.0 << 0.0 << 1 << false << QString::fromUtf8("1.131 cm²|5.65 cm²/m|5.00 /m") << 3.5e-4;
+        QTest::newRow("no bar: OK refused") << kNotSet << 20.0 << 0.0 << 1 << true << "no bar chosen|-|5.00 /m" << 3.5e-4;
+        // clang-format on
+        // clang-format on
+    }
+
+    // What the user reads, and what OK (or Cancel) hands back from a start of 3.50 cm²/m.
+    void calculator()
+    {
+        QFETCH(float, bar);
+        QFETCH(double, spacing);
+        QFETCH(double, count);
+        QFETCH(int, layers);
+        QFETCH(bool, ok);
+        QFETCH(QString, shown);
+        QFETCH(double, value);
+        QStringList seen;
+        QTimer::singleShot(0, [&] {
+            QWidget* d = QApplication::activeModalWidget();
+            QCOMPARE(child<QLabel>(d, "present")->text(), QString::fromUtf8("3.50 cm²/m"));
+            child<VKD_A_BarDiameterCombo>(d, "bar")->setCurrent(bar);
+            if (spacing > 0.0) {
+                child<QDoubleSpinBox>(d, "spacing")->setValue(spacing);
+            } else {
+                child<QRadioButton>(d, "byCount")->setChecked(true);
+                child<QDoubleSpinBox>(d, "count")->setValue(count);
+            }
+            seen << child<QLabel>(d, "barArea")->text() << child<QLabel>(d, "result")->text()
+                 << child<QDoubleSpinBox>(d, "count")->text();
+            child<QPushButton>(d, ok ? "ok" : "cancel")->click();
+            if (d->isVisible()) // a disabled OK does nothing
+                child<QPushButton>(d, "cancel")->click();
+        });
+        float result = 3.5e-4f;
+        vkd_a_ReinforcementCalculation(nullptr, 0, layers, result, 10.0f);
+        QCOMPARE(seen.join(QLatin1Char('|')), shown);
+        QVERIFY2(qAbs(result - value) < 1e-9, qPrintable(QString::number(result, 'g', 9)));
+    }
+
+    // The input not chosen follows the other and cannot be typed in.
+    void spacingFollowsCount()
+    {
+        VKD_A_ReinforcementCalculationDialog d(nullptr, 0, 1, kNotSet, 12.0f);
+        auto* spacing = child<QDoubleSpinBox>(&d, "spacing");
+        auto* count = child<QDoubleSpinBox>(&d, "count");
+        QVERIFY(spacing->isEnabled() && !count->isEnabled());
+        child<QRadioButton>(&d, "byCount")->setChecked(true);
+        QVERIFY(!spacing->isEnabled() && count->isEnabled());
+        count->setValue(8.0);
+        QCOMPARE(spacing->text(), QStringLiteral("12.5 cm"));
+        QCOMPARE(child<QLabel>(&d, "present")->text(), QStringLiteral("not set"));
+    }
+};
 
 QTEST_MAIN(TestLineEdit)
 #include "tst_lineedit.moc"

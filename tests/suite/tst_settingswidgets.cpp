@@ -1,11 +1,15 @@
 #include <VKD_H_BoxedLineEdit.h>
 #include <VKD_H_TableWidget.h>
+#include <VKD_H_TableWidgetBox.h>
+#include <VKD_QT_Dialog.h>
 #include <VKD_QT_Menu.h>
+#include <VKD_QT_MessageBox.h>
 #include <VKD_QT_RadioButtonGroup.h>
 #include <vkd_h_fieldcheck.h>
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -22,122 +26,153 @@ std::vector<StructRadioButtonGrup> entries(int count, int withWidget = -1)
     return out;
 }
 
-StructLineEdit fontLimits()
-{
-    StructLineEdit d = vkd_h_defaultLineEdit(-1);
-    d.value = 2.0;
-    d.minimum = 1.0;
-    d.maximum = 999.0;
-    d.notSetLimit = VKD_H_NOT_SET;
-    d.flags = 0;
-    return d;
-}
-
 } // namespace
 
 class TestSettingsWidgets : public QObject
 {
     Q_OBJECT
 private slots:
-    void radioChoice();
-    void boxedEdit();
-    void rowCountSignal();
-    void copyNeedsSelection();
-};
-
-// Entries are numbered by place; only a click reports; an attached widget lives with its entry.
-void TestSettingsWidgets::radioChoice()
-{
-    VKD_QT_RadioButtonGroup group(QStringLiteral("T"), entries(3, 1), nullptr, "G", Qt::Vertical, -1);
-    QComboBox attached;
-    QComboBox refused;
-    group.setWidget(1, &attached);
-    group.setWidget(2, &refused);
-    std::vector<StructRadioButtonGrup> renamed = entries(3, 1);
-    renamed[2].text = QStringLiteral("renamed");
-    group.init(renamed);
-    QCOMPARE(group.getRadioButton(2)->text(), QStringLiteral("renamed"));
-    QCOMPARE(attached.parentWidget(), &group);
-    QCOMPARE(refused.parentWidget(), nullptr);
-    QSignalSpy clicks(&group, &VKD_QT_RadioButtonGroup::buttWasClicked);
-    QCOMPARE(group.selectedButton(), -1);
-    QVERIFY(!attached.isEnabled());
-    group.setButton(1);
-    QCOMPARE(group.selectedButton(), 1);
-    QVERIFY(attached.isEnabled());
-    group.setButton(7);
-    QCOMPARE(group.selectedButton(), 1);
-    group.getRadioButton(2)->click();
-    QCOMPARE(clicks.count(), 1);
-    QCOMPARE(clicks.at(0).at(0).toInt(), 2);
-    QVERIFY(!attached.isEnabled());
-}
-
-// Refused text shows red with its reason and leaves the last accepted text in force; a decimal
-// comma becomes a point when the user leaves the field.
-void TestSettingsWidgets::boxedEdit()
-{
-    StructBoxedEdit description;
-    description.label = QStringLiteral("Size : ");
-    description.toolTip = QStringLiteral("The size");
-    description.lineEdit = fontLimits();
-    VKD_H_BoxedLineEdit box(nullptr, &description, "box");
-    auto* edit = box.findChild<QLineEdit*>();
-    QCOMPARE(box.getText(), QStringLiteral("2"));
-    QCOMPARE(edit->toolTip(), QStringLiteral("The size"));
-
-    edit->selectAll();
-    QTest::keyClicks(edit, QStringLiteral("abc"));
-    QVERIFY(box.isRefused());
-    QCOMPARE(box.getText(), QStringLiteral("2"));
-    QCOMPARE(box.shownText(), QStringLiteral("abc"));
-    QVERIFY(edit->styleSheet().contains(QStringLiteral("red")));
-    QCOMPARE(edit->toolTip(), QStringLiteral("\"abc\" is not a number. 2 stays in use."));
-
-    edit->selectAll();
-    QTest::keyClicks(edit, QStringLiteral("4,5"));
-    QVERIFY(!box.isRefused());
-    QCOMPARE(edit->toolTip(), QStringLiteral("The size"));
-    emit edit->editingFinished();
-    QCOMPARE(box.getText(), QStringLiteral("4.5"));
-
-    box.setText(QStringLiteral("1000"));
-    QCOMPARE(edit->toolTip(), QStringLiteral("The value must lie between 1 and 999. 4.5 stays in use."));
-    box.setText(QString());
-    QCOMPARE(edit->toolTip(), QStringLiteral("A value is required. 4.5 stays in use."));
-    QCOMPARE(box.getText(), QStringLiteral("4.5"));
-    box.setText(QStringLiteral("7,25"));
-    QCOMPARE(box.getText(), QStringLiteral("7,25"));
-    box.setVal(3.0);
-    QCOMPARE(box.getText(), QStringLiteral("3"));
-}
-
-// The old and the new number of rows, whichever way rows come and go.
-void TestSettingsWidgets::rowCountSignal()
-{
-    VKD_H_TableWidget table(2, 1);
-    QSignalSpy counts(&table, &VKD_H_TableWidget::signal_rowCountChanged);
-    table.insertRow(1);
-    table.setRowCount(6);
-    table.removeRow(0);
-    table.setRowCount(0);
-    table.setRowCount(0);
-    QStringList seen;
-    for (const QList<QVariant>& c : counts)
-        seen << QStringLiteral("%1>%2").arg(c.at(0).toInt()).arg(c.at(1).toInt());
-    QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("2>3 3>6 6>5 5>0"));
-}
-
-// Copy in the table's menu is live only with cells selected.
-void TestSettingsWidgets::copyNeedsSelection()
-{
-    VKD_H_TableWidget table(1, 1);
-    for (bool selected : {false, true}) {
-        table.setRangeSelected(QTableWidgetSelectionRange(0, 0, 0, 0), selected);
-        QCOMPARE(std::unique_ptr<VKD_QT_Menu>(table.getContextMenu())->actions().at(0)->isEnabled(),
-                 selected);
+    // Entries are numbered by place; only a click reports; an attached widget lives with its entry.
+    void radioChoice()
+    {
+        VKD_QT_RadioButtonGroup group(QStringLiteral("T"), entries(3, 1), nullptr, "G", Qt::Vertical, -1);
+        QComboBox attached, refused;
+        group.setWidget(1, &attached);
+        group.setWidget(2, &refused);
+        std::vector<StructRadioButtonGrup> renamed = entries(3, 1);
+        renamed[2].text = QStringLiteral("renamed");
+        group.init(renamed);
+        QCOMPARE(group.getRadioButton(2)->text(), QStringLiteral("renamed"));
+        QCOMPARE(attached.parentWidget(), &group);
+        QCOMPARE(refused.parentWidget(), nullptr);
+        QSignalSpy clicks(&group, &VKD_QT_RadioButtonGroup::buttWasClicked);
+        QCOMPARE(group.selectedButton(), -1);
+        QVERIFY(!attached.isEnabled());
+        group.setButton(1);
+        QCOMPARE(group.selectedButton(), 1);
+        QVERIFY(attached.isEnabled());
+        group.setButton(7);
+        QCOMPARE(group.selectedButton(), 1);
+        group.getRadioButton(2)->click();
+        QCOMPARE(clicks.count(), 1);
+        QCOMPARE(clicks.at(0).at(0).toInt(), 2);
+        QVERIFY(!attached.isEnabled());
     }
-}
+
+    // Refused text shows red with its reason and leaves the last accepted text in force; a decimal
+    // comma becomes a point when the user leaves the field.
+    void boxedEdit()
+    {
+        StructBoxedEdit description;
+        description.label = QStringLiteral("Size : ");
+        description.toolTip = QStringLiteral("The size");
+        StructLineEdit& d = description.lineEdit;
+        d = vkd_h_defaultLineEdit(-1);
+        d.value = 2.0;
+        d.minimum = 1.0;
+        d.maximum = 999.0;
+        d.notSetLimit = VKD_H_NOT_SET;
+        d.flags = 0;
+        VKD_H_BoxedLineEdit box(nullptr, &description, "box");
+        auto* edit = box.findChild<QLineEdit*>();
+        QCOMPARE(box.getText(), QStringLiteral("2"));
+        QCOMPARE(edit->toolTip(), QStringLiteral("The size"));
+
+        edit->selectAll();
+        QTest::keyClicks(edit, QStringLiteral("abc"));
+        QVERIFY(box.isRefused());
+        QCOMPARE(box.getText(), QStringLiteral("2"));
+        QCOMPARE(box.shownText(), QStringLiteral("abc"));
+        QVERIFY(edit->styleSheet().contains(QStringLiteral("red")));
+        QCOMPARE(edit->toolTip(), QStringLiteral("\"abc\" is not a number. 2 stays in use."));
+
+        edit->selectAll();
+        QTest::keyClicks(edit, QStringLiteral("4,5"));
+        QVERIFY(!box.isRefused());
+        QCOMPARE(edit->toolTip(), QStringLiteral("The size"));
+        emit edit->editingFinished();
+        QCOMPARE(box.getText(), QStringLiteral("4.5"));
+
+        box.setText(QStringLiteral("1000"));
+        QCOMPARE(edit->toolTip(), QStringLiteral("The value must lie between 1 and 999. 4.5 stays in use."));
+        box.setText(QString());
+        QCOMPARE(edit->toolTip(), QStringLiteral("A value is required. 4.5 stays in use."));
+        QCOMPARE(box.getText(), QStringLiteral("4.5"));
+        box.setText(QStringLiteral("7,25"));
+        QCOMPARE(box.getText(), QStringLiteral("7,25"));
+        box.setVal(3.0);
+        QCOMPARE(box.getText(), QStringLiteral("3"));
+    }
+
+    // The old and the new number of rows, whichever way rows come and go; the box's New button
+    // adds a row that becomes the current one, at its first cell.
+    void rowCountSignal()
+    {
+        auto* table = new VKD_H_TableWidget(2, 3);
+        VKD_H_TableWidgetBox box(table, QStringLiteral("Rows"), nullptr);
+        QSignalSpy counts(table, &VKD_H_TableWidget::signal_rowCountChanged);
+        table->insertRow(1);
+        table->setRowCount(6);
+        table->removeRow(0);
+        table->setRowCount(0);
+        table->setRowCount(0);
+        box.addButton(VKD_H_TableWidgetBox::New, true)->click();
+        QCOMPARE(QPoint(table->currentColumn(), table->currentRow()), QPoint(0, 0));
+        QStringList seen;
+        for (const QList<QVariant>& c : counts)
+            seen << QStringLiteral("%1>%2").arg(c.at(0).toInt()).arg(c.at(1).toInt());
+        QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("2>3 3>6 6>5 5>0 0>1"));
+    }
+
+    // Copy in the table's menu is live only with cells selected.
+    void copyNeedsSelection()
+    {
+        VKD_H_TableWidget table(1, 1);
+        for (bool selected : {false, true}) {
+            table.setRangeSelected(QTableWidgetSelectionRange(0, 0, 0, 0), selected);
+            QCOMPARE(std::unique_ptr<VKD_QT_Menu>(table.getContextMenu())->actions().at(0)->isEnabled(),
+                     selected);
+        }
+    }
+
+    // A dialog closed by callDone() for a detour says so once, with its result, when shown again.
+    void reopenAfterDetour()
+    {
+        VKD_QT_Dialog dialog;
+        QSignalSpy reopened(&dialog, &VKD_QT_Dialog::isReOpen);
+        dialog.callDone(3);
+        dialog.show();
+        dialog.hide();
+        dialog.show();
+        QCOMPARE(reopened, (QList<QVariantList>{{3}}));
+    }
+
+    // The boxes with button texts: Escape gives the index of the escape button, if there is one.
+    void escape_data()
+    {
+        QTest::addColumn<int>("escapeButton");
+        QTest::addColumn<int>("result");
+        QTest::newRow("first button") << 0 << 0;
+        QTest::newRow("last button") << 2 << 2;
+        QTest::newRow("none: the box stays until a button is pressed") << -1 << 1;
+    }
+
+    void escape()
+    {
+        QFETCH(int, escapeButton);
+        QFETCH(int, result);
+        QTimer::singleShot(50, [] {
+            QWidget* box = QApplication::activeModalWidget();
+            QTest::keyClick(box, Qt::Key_Escape);
+            if (QApplication::activeModalWidget() == box)
+                for (QPushButton* b : box->findChildren<QPushButton*>())
+                    if (b->text() == QLatin1String("B"))
+                        b->click();
+        });
+        QCOMPARE(VKD_QT_MessageBox::warning(nullptr, "Title", "Text", "A", "B", "C", 1, escapeButton),
+                 result);
+    }
+};
 
 QTEST_MAIN(TestSettingsWidgets)
 #include "tst_settingswidgets.moc"

@@ -1,16 +1,21 @@
-// The suite parts that the design parameters stand on: units, bar table, project pages. The
-// units of the design texts are checked with those texts; here are the other cases.
+// The suite parts that the design parameters stand on: units, bar table, project pages, group
+// names and picks, data files. The units of the design texts are checked with those texts, the group
+// dialogs through the design page; here are the other cases.
 #include <VKD_A_BarDiameterData.h>
 #include <VKD_H_ProjectDialogPage.h>
+#include <VKD_H_SelGRP_Dialog.h>
 #include <VKD_H_UnitLabel.h>
 #include <VKD_H_ZOBDoc.h>
+#include <VKD_QT_InitTranslator.h>
 #include <vkd_dbo.h>
+#include <vkd_h_grouppick.h>
 #include <vkd_h_units.h>
+#include <vkd_q.h>
+#include <vkd_qt_icon.h>
 
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <cmath>
 #include <limits>
 #include <memory>
 
@@ -22,7 +27,17 @@ class TestSuiteParts : public QObject
     int m_projects = 0;
     std::unique_ptr<VKD_H_ZOBDoc> m_doc;
 
+    QString write(const QString& name, const QByteArray& contents)
+    {
+        QFile f(m_dir.filePath(name));
+        f.open(QIODevice::WriteOnly);
+        f.write(contents);
+        return QFileInfo(f).absoluteFilePath();
+    }
+
 private slots:
+    void initTestCase() { qputenv("VKD_SEARCHPATH", QFile::encodeName(m_dir.path())); }
+
     void init()
     {
         m_doc = std::make_unique<VKD_H_ZOBDoc>(m_dir.filePath(QStringLiteral("%1.vkd").arg(++m_projects)));
@@ -62,11 +77,9 @@ private slots:
 
     void barTable_data()
     {
-        QTest::addColumn<QString>("stored"); // "never", or diameter:name records separated by blanks
+        QTest::addColumn<QString>("stored"); // diameter:name records separated by blanks
         QTest::addColumn<QString>("loaded");
-        const QString standard = QString::fromUtf8("Ø6 Ø8 Ø10 Ø12 Ø14 Ø16 Ø20 Ø25 Ø28 Ø32 Ø40");
         // clang-format off
-        QTest::newRow("never stored") << "never" << standard;
         QTest::newRow("names of the project") << "9.5:#3 12.7:#4 15.9:#5" << "#3 #4 #5";
         QTest::newRow("order of the project") << "20: 8: 12:" << QString::fromUtf8("Ø20 Ø8 Ø12");
         QTest::newRow("bad diameters skipped") << "0:zero -6:neg 10:ten" << "ten";
@@ -78,23 +91,19 @@ private slots:
     {
         QFETCH(QString, stored);
         QFETCH(QString, loaded);
-        if (stored != QLatin1String("never")) {
-            std::vector<VKD_A_BarDiameterData::Bar> bars;
-            for (const QString& b : stored.split(QLatin1Char(' '), Qt::SkipEmptyParts))
-                bars.push_back({b.section(QLatin1Char(':'), 0, 0).toFloat(), b.section(QLatin1Char(':'), 1)});
-            VKD_A_BarDiameterData table;
-            table.setBars(bars);
-            table.save(m_doc->index());
-        }
-        VKD_A_BarDiameterData table;
-        QVERIFY(table.load(m_doc->index()));
+        std::vector<VKD_A_BarDiameterData::Bar> bars;
+        for (const QString& b : stored.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+            bars.push_back({b.section(QLatin1Char(':'), 0, 0).toFloat(), b.section(QLatin1Char(':'), 1)});
+        VKD_A_BarDiameterData table, back;
+        table.setBars(bars);
+        table.save(m_doc->index());
+        QVERIFY(back.load(m_doc->index()));
         QStringList names;
-        for (const VKD_A_BarDiameterData::Bar& b : table.bars())
+        for (const VKD_A_BarDiameterData::Bar& b : back.bars())
             names << b.name;
         QCOMPARE(names.join(QLatin1Char(' ')), loaded);
     }
 
-    // A bar goes by its name in the project's table, else by its diameter; no bar has no text.
     // Titles of model records are cut to their field, which keeps its terminating zero.
     void recordTitles()
     {
@@ -103,6 +112,7 @@ private slots:
         QCOMPARE(QByteArray(vkd::dbo::makeGroup(1, longTitle).title), QByteArray(31, 'x'));
     }
 
+    // A bar goes by its name in the project's table, else by its diameter; no bar has no text.
     void barText()
     {
         VKD_A_BarDiameterData table, loaded;
@@ -128,13 +138,14 @@ private slots:
         QTest::newRow("long value") << QStringList{QStringLiteral("Long=") + QString(5000, QLatin1Char('y'))};
     }
 
-    // A page goes into the project under its number and comes back, replacing what it held.
+    // A page comes back from the project under its number, replacing what it held; keyless entries do not.
     void projectPage()
     {
         QFETCH(QStringList, entries);
         VKD_H_ProjectDialogPage page(3), other(4), back(3), never(9);
         for (const QString& e : entries)
             page.setEntry(e.section(QLatin1Char('='), 0, 0), e.section(QLatin1Char('='), 1));
+        page.setEntry(QString(), QStringLiteral("no key"));
         page.save(m_doc->index());
         other.setEntry(QStringLiteral("kept apart"), QStringLiteral("1"));
         other.save(m_doc->index());
@@ -148,7 +159,130 @@ private slots:
         QVERIFY(never.load(m_doc->index()) && never.keys().isEmpty());
         QVERIFY(!never.load(-1));
     }
+
+    // A closed project is no longer the current one, nor is any other.
+    void closedProjectIsNotCurrent()
+    {
+        m_doc.reset();
+        QCOMPARE(vkd::dbo::currentProject(), 0);
+    }
+
+    // Secondary groups go by names of up to four bytes packed into a group number.
+    void secondaryGroupNames_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<quint32>("bits"); // 0: the name cannot be packed
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("two letters, blank padded") << "AB" << 0x20204241u << "AB";
+        QTest::newRow("four letters, inner blank") << "E GE" << 0x45472045u << "E GE";
+        QTest::newRow("five letters") << "ABCDE" << 0u << "";
+        QTest::newRow("leading blank, umlaut") << QStringLiteral(" Ä") << 0u << "";
+        QTest::newRow("stored: byte above ASCII") << "" << 0x2020E941u << "A\\xe9";
+        QTest::newRow("stored: control bytes, zero ends") << "" << 0x00410720u << "\\x07A";
+    }
+
+    void secondaryGroupNames()
+    {
+        QFETCH(QString, name);
+        QFETCH(quint32, bits);
+        int32_t number = 0;
+        if (!name.isEmpty()) {
+            QCOMPARE(vkd::dbo::packSecondaryGroupName(name, &number), bits != 0);
+            QCOMPARE(quint32(number), bits);
+        }
+        if (bits)
+            QTEST(vkd::dbo::secondaryGroupName(int32_t(bits)), "shown");
+    }
+
+    // The group pick left in a project for the group dialog, taken once.
+    void modelPick()
+    {
+        const int index = m_doc->index();
+        std::vector<int> groups{42};
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(index, groups), -1);
+        QCOMPARE(groups, std::vector<int>{42});
+        vkd_h_storeGroupPick(index, {11, 2, 0x20205853});
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(index, groups), 3);
+        QCOMPARE(groups, (std::vector<int>{11, 2, 0x20205853}));
+        vkd_h_storeGroupPick(index, {});
+        QCOMPARE(VKD_H_SelGRP_Dialog::getAniSelectionFromZob(index, groups), -1);
+    }
+
+    void groupIcons()
+    {
+        for (int number : {2125, 2126}) {
+            const QIcon icon = vkd_qt_icon(number, 32);
+            QCOMPARE(icon.availableSizes(), (QList<QSize>{QSize(32, 32), QSize(64, 64)}));
+            QCOMPARE(icon.pixmap(QSize(64, 64)).size(), QSize(64, 64));
+        }
+        QVERIFY(vkd_qt_icon(2127, 32).isNull());
+    }
+
+    // Data files of the suite that cannot be used as they are: one warning that names the file
+    // and the line, and what can be used still is.
+    void messageCatalogue_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<QString>("warning"); // after "<file>:"; empty for none
+        const QByteArray good = "# texts of a test program\n1|ABC|Ansicht|View\n";
+        // clang-format off
+        QTest::newRow("sound file") << good << "";
+        QTest::newRow("three fields on line 3") << good + "1|ABD|Schnitt\n" << "3: not a text line \"class|key|German|English\" in UTF-8; 1 such line(s) skipped";
+        QTest::newRow("class not a number, twice") << good + "\nx|ABD|Schnitt|Section\ny|ABE|a|b\n" << "4: not a text line \"class|key|German|English\" in UTF-8; 2 such line(s) skipped";
+        QTest::newRow("Latin-1 instead of UTF-8") << good + "1|ABF|Gr\xf6\xdf" "e|Size\n" << "3: not a text line \"class|key|German|English\" in UTF-8; 1 such line(s) skipped";
+        // clang-format on
+    }
+
+    void messageCatalogue()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(QString, warning);
+        static int program = 0;
+        const QByteArray name = "prog" + QByteArray::number(++program);
+        const QString path = write(QString::fromLatin1(name + ".msg"), contents);
+        if (!warning.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(path + QLatin1Char(':') + warning));
+        vkd_lib_opentext(name.constData());
+        QCOMPARE(QString::fromStdString(vkd_lib_convtext(1, 0, "ABC")), QStringLiteral("Ansicht"));
+        QCOMPARE(QString::fromStdString(vkd_lib_convtext(1, 1, "ABD")), QString());
+    }
+
+    void translation_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<bool>("installed");
+        QFile shipped(QCoreApplication::applicationDirPath() + QStringLiteral("/data/vkd_p_dll_de.qm"));
+        QVERIFY(shipped.open(QIODevice::ReadOnly));
+        const QByteArray whole = shipped.readAll();
+        QTest::newRow("shipped translation") << whole << true;
+        QTest::newRow("shipped translation cut in half") << whole.left(whole.size() / 2) << false;
+        QTest::newRow("text file") << QByteArray("Ansicht = View\n") << false;
+    }
+
+    void translation()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(bool, installed);
+        const QString path = write(QStringLiteral("mod_de.qm"), contents);
+        if (!installed)
+            QTest::ignoreMessage(
+                QtWarningMsg,
+                qPrintable(path +
+                           QStringLiteral(": not a translation that can be loaded; the texts stay English")));
+        vkd_lib_setvalue(102, 0);
+        VKD_QT_InitTranslator translator("mod");
+        vkd_lib_setvalue(102, 1);
+        QCOMPARE(translator.isInstalled(), installed);
+    }
+
+    // Bit 1 of the mode takes the configured folders only, bit 2 those of the executable only.
+    void searchFolders()
+    {
+        const QString exe = QCoreApplication::applicationDirPath();
+        QCOMPARE(vkd_lib_searchfolders(2), QStringList({exe, exe + QStringLiteral("/data")}));
+        QVERIFY(!vkd_lib_searchfolders(1).contains(exe));
+    }
 };
 
-QTEST_GUILESS_MAIN(TestSuiteParts)
+QTEST_MAIN(TestSuiteParts)
 #include "tst_suiteparts.moc"
