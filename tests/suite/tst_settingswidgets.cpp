@@ -2,12 +2,15 @@
 #include <VKD_H_TableWidget.h>
 #include <VKD_H_TableWidgetBox.h>
 #include <VKD_QT_Dialog.h>
+#include <VKD_QT_InfoText.h>
 #include <VKD_QT_Menu.h>
 #include <VKD_QT_MessageBox.h>
 #include <VKD_QT_RadioButtonGroup.h>
 #include <vkd_h_fieldcheck.h>
 
 #include <QComboBox>
+#include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -145,6 +148,18 @@ private slots:
         dialog.hide();
         dialog.show();
         QCOMPARE(reopened, (QList<QVariantList>{{3}}));
+    }
+
+    // A note lines up with the fields around it: its icon, or its text when it has none, starts
+    // at its left edge.
+    void noteFlush()
+    {
+        for (bool icon : {true, false}) {
+            VKD_QT_InfoText note(icon, QStringLiteral("Note"));
+            note.resize(200, 40);
+            note.layout()->activate();
+            QCOMPARE(note.findChild<QLabel*>(icon ? "icon" : "text")->x(), 0);
+        }
     }
 
     // The boxes with button texts: Escape gives the index of the escape button, if there is one.
