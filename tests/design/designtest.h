@@ -3,9 +3,11 @@
 // buttons of a dialog, and modal windows answered as a person would.
 
 #include <VKD_QT_Ok.h>
+#include <VKD_QT_TableWidgetButton.h>
 #include <vkd_q.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -29,6 +31,13 @@ inline QPushButton* dialogButton(QWidget* dialog, bool ok = true)
 {
     auto* row = dialog->findChild<VKD_QT_Ok*>(QStringLiteral("okayandcancelbutton"));
     return ok ? row->cmdOk() : row->cmdCancel();
+}
+
+// What a button laid over a table cell shows.
+inline QString buttonText(VKD_QT_TableWidgetButton* b)
+{
+    return b->mode() == VKD_QT_TableWidgetButton::EditText ? b->findChild<QLabel*>()->text()
+                                                           : b->button()->text();
 }
 
 // Runs `act` on the first modal widget that `match` takes, as soon as it is up.

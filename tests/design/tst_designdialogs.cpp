@@ -474,9 +474,7 @@ private slots:
         }
         QVERIFY(table->item(row, col)->text() != summary);
         // The open button follows.
-        QCOMPARE(button->mode() == VKD_QT_TableWidgetButton::EditText ? button->findChild<QLabel*>()->text()
-                                                                      : button->button()->text(),
-                 table->item(row, col)->text());
+        QCOMPARE(buttonText(button), table->item(row, col)->text());
         QVERIFY(matchesReference(changedLines(baseline, demo.written()), reference));
     }
 };
