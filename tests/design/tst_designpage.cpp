@@ -56,6 +56,19 @@ struct Project
         }
     }
     int index() const { return doc->index(); }
+    // A page on the project as a host makes it, read from the store or from the project page,
+    // shown.
+    std::unique_ptr<VKD_P_DesignParameter> page(VKD_H_ProjectDialogPage* entries = nullptr)
+    {
+        auto page = std::make_unique<VKD_P_DesignParameter>(doc.get(), doc.get(), nullptr, false, false);
+        page->init();
+        entries ? page->getEntrys(*entries) : page->readZob();
+        page->resize(1400, 700);
+        page->show();
+        if (!QTest::qWaitForWindowExposed(page.get()))
+            qWarning("the page was not shown");
+        return page;
+    }
 
     QTemporaryDir dir;
     std::unique_ptr<VKD_H_ZOBDoc> doc;
@@ -119,7 +132,8 @@ bool chooseType(QTableWidget* table, int row, const QString& text)
 }
 
 // Each button laid over a cell with its mode; "stale" if it does not show the text of its cell,
-// "leftover" if a button lives on outside the cells.
+// "see-through" if the cell's own text shows under it, "leftover" if a button lives on outside
+// the cells.
 QString editorState(const QTableWidget* table)
 {
     QString out = QStringLiteral("edit");
@@ -128,11 +142,12 @@ QString editorState(const QTableWidget* table)
         for (int c = 0; c < table->columnCount(); ++c)
             if (auto* b = qobject_cast<VKD_QT_TableWidgetButton*>(table->cellWidget(r, c))) {
                 ++buttons;
-                out += QStringLiteral(" button %1,%2 mode %3%4")
+                out += QStringLiteral(" button %1,%2 mode %3%4%5")
                            .arg(r)
                            .arg(c)
                            .arg(int(b->mode()))
-                           .arg(buttonText(b) != table->item(r, c)->text() ? " stale" : "");
+                           .arg(buttonText(b) != table->item(r, c)->text() ? " stale" : "")
+                           .arg(b->autoFillBackground() ? "" : " see-through");
             }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     if (table->findChildren<VKD_QT_TableWidgetButton*>().size() > buttons)
@@ -285,8 +300,11 @@ private slots:
 
         QSignalSpy rowCount(page, &VKD_P_DesignParameter::signal_rowCountChanged);
         QVERIFY(page->init());
-        page->readZob();
         DesignParameterTable* table = tableOf(page);
+        QSignalSpy added(table, &DesignParameterTable::rowsAdded);
+        page->readZob();
+        QCOMPARE(added.count(), 1); // as the table tells of each row it adds
+        QCOMPARE(added.at(0).at(0).toInt(), 0);
         // Each summary shows two lines.
         QVERIFY(table->verticalHeader()->defaultSectionSize() > 2 * table->fontMetrics().lineSpacing());
         QCOMPARE(rowCount.count(), 1);
@@ -333,15 +351,13 @@ private slots:
             auto* dialog = new PlibHostDialog(files.doc.get());
             window.reset(dialog);
             page = dialog->designPage();
+            dialog->resize(1400, 700);
+            dialog->show();
+            QVERIFY(QTest::qWaitForWindowExposed(dialog));
         } else {
-            page = new VKD_P_DesignParameter(files.doc.get(), files.doc.get(), nullptr, false, false);
-            window.reset(page);
-            page->init();
-            entries ? page->getEntrys(projectPage) : page->readZob();
+            window = files.page(entries ? &projectPage : nullptr);
+            page = static_cast<VKD_P_DesignParameter*>(window.get());
         }
-        window->resize(1400, 700);
-        window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         QSignalSpy rowCounts(page, &VKD_P_DesignParameter::signal_rowCountChanged);
         for (const QString& step : steps) {
             const QString action = step.section(QStringLiteral(" => "), 0, 0);
@@ -363,14 +379,11 @@ private slots:
     void typeChangeKeepsTheOtherValues()
     {
         Project project(QStringLiteral("demo"));
-        VKD_P_DesignParameter page(project.doc.get(), project.doc.get(), nullptr, false, false);
-        page.init();
-        page.readZob();
-        page.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&page));
-        DesignParameterTable* table = tableOf(&page);
+        const auto page = project.page();
+        DesignParameterTable* table = tableOf(page.get());
         QVERIFY(matchesReference(tableText(table), QStringLiteral("demo-project.txt")));
-        QVERIFY(button(&page, QStringLiteral("btnNew"))->y() > table->y()); // the buttons below the table
+        QVERIFY(button(page.get(), QStringLiteral("btnNew"))->y() >
+                table->y()); // the buttons below the table
         const QString threeLayers = table->item(3, 2)->text();
         QVERIFY(chooseType(table, 3, QStringLiteral("Two Layers")));
         QVERIFY(!table->item(3, 2)->text().contains(QStringLiteral("1.5 cm")));
@@ -385,28 +398,19 @@ private slots:
         Project project(QStringLiteral("demo"));
         VKD_H_ProjectDialogPage projectPage;
         projectPage.setEntry(QStringLiteral("MerPara3"), QStringLiteral("left over"));
-        QString before;
-        {
-            VKD_P_DesignParameter page(project.doc.get(), project.doc.get(), nullptr, false, false);
-            page.init();
-            page.getEntrys(projectPage);
-            page.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&page));
-            DesignParameterTable* table = tableOf(&page);
-            button(&page, QStringLiteral("btnNew"))->click();
-            button(&page, QStringLiteral("btnNew"))->click();
-            QVERIFY(chooseType(table, 4, QStringLiteral("Two Layers (orthogonal)")));
-            QVERIFY(chooseType(table, 5, QStringLiteral("Three Layers")));
-            before = tableText(table);
-            page.setEntrys(projectPage);
-        }
+        auto page = project.page(&projectPage);
+        DesignParameterTable* table = tableOf(page.get());
+        button(page.get(), QStringLiteral("btnNew"))->click();
+        button(page.get(), QStringLiteral("btnNew"))->click();
+        QVERIFY(chooseType(table, 4, QStringLiteral("Two Layers (orthogonal)")));
+        QVERIFY(chooseType(table, 5, QStringLiteral("Three Layers")));
+        const QString before = tableText(table);
+        page->setEntrys(projectPage);
+        page.reset();
         QCOMPARE(projectPage.keys(), (QStringList{"MerPara1", "MerPara2"}));
         QCOMPARE(vkd_zob_count(project.index(), 200, 6), 5);
-        VKD_P_DesignParameter again(project.doc.get(), project.doc.get(), nullptr, false, false);
-        again.init();
-        again.getEntrys(projectPage);
         const int newRows = before.indexOf(QStringLiteral("row 4\n"));
-        QCOMPARE(tableText(tableOf(&again)).mid(newRows),
+        QCOMPARE(tableText(tableOf(project.page(&projectPage).get())).mid(newRows),
                  before.mid(newRows).replace(
                      QStringLiteral("Ø10 ; -  ; -  / Ø10 ; -  ; - \n"),
                      QStringLiteral("Ø10 ;0.00 cm²/m ;0.00 cm²/m / Ø10 ;0.00 cm²/m ;0.00 cm²/m\n")));
@@ -416,13 +420,12 @@ private slots:
     void help()
     {
         Project project;
-        VKD_P_DesignParameter page(project.doc.get(), project.doc.get(), nullptr, false, false);
-        page.init();
+        const auto page = project.page();
         for (const auto& [language, file, heading] :
              {std::tuple{1, "merdan_para_en.html", "Design parameters"},
               {0, "merdan_para_de.html", "Bemessungsparameter"}}) {
             vkd_lib_setvalue(kSettingLanguage, language);
-            page.showHelp();
+            page->showHelp();
             QTextBrowser* text = nullptr;
             for (QWidget* w : QApplication::topLevelWidgets())
                 if (w->objectName() == QLatin1String("helpViewer") && w->isVisible())
