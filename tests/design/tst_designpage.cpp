@@ -1,20 +1,13 @@
 // The design parameter page driven as a host and a user drive it, offscreen, on temporary
 // projects; and the host program around it. Widgets are found by their object names.
-#include "DesignParameterTable.h"
 #include "PlibHostDialog.h"
 #include "designrecord.h"
 #include "designtest.h"
 #include "reference.h"
 
-#include <VKD_H_ProjectDialogPage.h>
 #include <VKD_H_TwHeaderItem.h>
-#include <VKD_H_ZOBDoc.h>
-#include <VKD_P_DesignParameter.h>
 #include <VKD_QT_Dialog.h>
 #include <VKD_QT_InitTranslator.h>
-#include <VKD_QT_TableWidgetButton.h>
-#include <demomodel.h>
-#include <design.h>
 
 #include <QComboBox>
 #include <QContextMenuEvent>
@@ -23,65 +16,18 @@
 #include <QLayout>
 #include <QMenu>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTextBrowser>
-#include <QtTest>
 
 #include <cstring>
 #include <map>
-#include <memory>
 
 using namespace vkd::plib::design;
 
 namespace {
 
-// A project in a temporary folder: "new"; "demo", the demo model with its design parameters;
-// "five", a new one whose rows are the remaining groups and the groups 1 to 4, of no design.
-struct Project
-{
-    explicit Project(const QString& kind = QStringLiteral("new"))
-    {
-        doc = std::make_unique<VKD_H_ZOBDoc>(dir.filePath(QStringLiteral("project.vkd")));
-        if (kind == QLatin1String("five")) {
-            for (int group : {-1, 1, 2, 3, 4}) {
-                tagZOB_QUAD_RIM r = getDefaultMerPara(group < 0);
-                r.group = group;
-                r.xref = float(group); // keeps the records from folding into one row
-                int length = int(sizeof r);
-                vkd_zob_put(index(), 200, 6, &r, &length, 1);
-            }
-        } else if (kind != QLatin1String("new")) {
-            writeDemoModel(index());
-            writeDemoDesign(*doc);
-        }
-    }
-    int index() const { return doc->index(); }
-    // A page on the project as a host makes it, read from the store or from the project page,
-    // shown.
-    std::unique_ptr<VKD_P_DesignParameter> page(VKD_H_ProjectDialogPage* entries = nullptr)
-    {
-        auto page = std::make_unique<VKD_P_DesignParameter>(doc.get(), doc.get(), nullptr, false, false);
-        page->init();
-        entries ? page->getEntrys(*entries) : page->readZob();
-        page->resize(1400, 700);
-        page->show();
-        if (!QTest::qWaitForWindowExposed(page.get()))
-            qWarning("the page was not shown");
-        return page;
-    }
-
-    QTemporaryDir dir;
-    std::unique_ptr<VKD_H_ZOBDoc> doc;
-};
-
 QString oneLine(QString text)
 {
     return text.replace(QLatin1Char('\n'), QLatin1String(" / "));
-}
-
-DesignParameterTable* tableOf(QWidget* page)
-{
-    return page->findChild<DesignParameterTable*>(QStringLiteral("table"));
 }
 
 QPushButton* button(QWidget* page, const QString& name)
@@ -102,18 +48,12 @@ QString tableText(const QTableWidget* table)
     return out;
 }
 
-void clickCell(QTableWidget* table, int row, int column, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-{
-    QTest::mouseClick(table->viewport(), Qt::LeftButton, modifiers,
-                      table->visualRect(table->model()->index(row, column)).center());
-}
-
 // Clicks the Type cell of the row, opens its combo with F2 and picks the entry with the
 // keyboard. False if no combo opened or it has no such entry.
 bool chooseType(QTableWidget* table, int row, const QString& text)
 {
-    // The editor closed last goes first; a click on the cell that is current already would
-    // start the view's delayed editing instead of selecting.
+    // A click on the cell that is current already would start the view's delayed editing
+    // instead of selecting.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     if (table->currentRow() != row || table->currentColumn() != 1)
         clickCell(table, row, 1);

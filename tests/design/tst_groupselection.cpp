@@ -2,25 +2,20 @@
 // its editor, the two group dialogs driven by clicks, the pick in the model through a host
 // dialog, and the German words the combo and the page have to share.
 #include "DesignParameter.h"
-#include "DesignParameterTable.h"
 #include "designstore.h"
 #include "designtest.h"
 #include "dlgSelection.h"
 
 #include <VKD_H_SelGRP_Dialog.h>
-#include <VKD_H_ZOBDoc.h>
 #include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_Dialog.h>
 #include <VKD_QT_Layouts.h>
-#include <demomodel.h>
 #include <vkd_dbo.h>
 #include <vkd_h_grouppick.h>
 
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QTranslator>
 #include <QTreeWidget>
-#include <QtTest>
 
 using GroupList = std::vector<int>;
 
@@ -139,16 +134,10 @@ class TestGroupSelection : public QObject
         return m_page;
     }
 
-    QTableWidget* table() const { return m_page->findChild<QTableWidget*>(QStringLiteral("table")); }
+    QTableWidget* table() const { return tableOf(m_page); }
     dlgSelection* editor() const
     {
         return qobject_cast<dlgSelection*>(table()->cellWidget(table()->currentRow(), 0));
-    }
-    void clickCell(int row, int column)
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QTest::mouseClick(table()->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          table()->visualRect(table()->model()->index(row, column)).center());
     }
 
     // Steps separated by "|": "at R" clicks the groups cell of row R, "type R" its type cell,
@@ -161,7 +150,7 @@ class TestGroupSelection : public QObject
         for (const QString& step : steps.split(QLatin1Char('|'))) {
             const QString argument = step.section(QLatin1Char(' '), 1);
             if (step.startsWith(QLatin1String("at ")) || step.startsWith(QLatin1String("type "))) {
-                clickCell(argument.toInt(), step.startsWith(QLatin1String("at ")) ? 0 : 1);
+                clickCell(table(), argument.toInt(), step.startsWith(QLatin1String("at ")) ? 0 : 1);
                 continue;
             }
             dlgSelection* e = editor();
@@ -281,7 +270,7 @@ private slots:
         GroupList list;
         auto look = [&] {
             if (!editor())
-                clickCell(1, 0);
+                clickCell(table(), 1, 0);
             seen << QStringLiteral("%1 %2")
                         .arg(host.reopenConnections())
                         .arg(entriesText(editor()->comboGroups));
