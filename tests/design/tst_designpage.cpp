@@ -331,31 +331,6 @@ private slots:
         QCOMPARE(table->item(3, 2)->text(), threeLayers);
     }
 
-    // Rows without groups go to the project page and come back from it with minimum and maximum
-    // reinforcement 0; an entry left over from a longer list goes.
-    void entriesRoundTrip()
-    {
-        Project project(QStringLiteral("demo"));
-        VKD_H_ProjectDialogPage projectPage;
-        projectPage.setEntry(QStringLiteral("MerPara3"), QStringLiteral("left over"));
-        auto page = project.page(&projectPage);
-        DesignParameterTable* table = tableOf(page.get());
-        button(page.get(), QStringLiteral("btnNew"))->click();
-        button(page.get(), QStringLiteral("btnNew"))->click();
-        QVERIFY(chooseType(table, 4, QStringLiteral("Two Layers (orthogonal)")));
-        QVERIFY(chooseType(table, 5, QStringLiteral("Three Layers")));
-        const QString before = tableText(table);
-        page->setEntrys(projectPage);
-        page.reset();
-        QCOMPARE(projectPage.keys(), (QStringList{"MerPara1", "MerPara2"}));
-        QCOMPARE(vkd_zob_count(project.index(), 200, 6), 5);
-        const int newRows = before.indexOf(QStringLiteral("row 4\n"));
-        QCOMPARE(tableText(tableOf(project.page(&projectPage).get())).mid(newRows),
-                 before.mid(newRows).replace(
-                     QStringLiteral("Ø10 ; -  ; -  / Ø10 ; -  ; - \n"),
-                     QStringLiteral("Ø10 ;0.00 cm²/m ;0.00 cm²/m / Ø10 ;0.00 cm²/m ;0.00 cm²/m\n")));
-    }
-
     // The help book opens on the page of the desktop's language.
     void help()
     {
