@@ -1,6 +1,5 @@
 // The design parameters without widgets: the record, its entries on a project page, its store
-// access, the texts of the table, and the records as the project tool shows them. Each test
-// runs in a fresh project.
+// access, the texts of the table, and the records as the project tool shows them.
 #include "reference.h"
 
 #include <VKD_A_BarDiameterData.h>
@@ -371,7 +370,6 @@ private slots:
         QTest::newRow("two remaining records, the later first") << "" << "-1A 1A -1B" << "B:-1 A:-1 A:1";
         QTest::newRow("rows already there stay between") << "C:" << "1A -1B 2B" << "B:-1 C: A:1 B:2";
         QTest::newRow("other mark skipped") << "" << "1A 2A/m5 3A" << "A:1,3";
-        QTest::newRow("other subId skipped") << "" << "1A 2A/s1 3A" << "A:1,3";
         QTest::newRow("skipped before the remaining groups") << "" << "-1A/s2 1B" << "B:1";
         QTest::newRow("mark 0 is ours, and compared") << "" << "1A/m0 2A/m0 3A" << "A:1,2 A:3";
         // The words beyond a short record's end keep those of the record before.

@@ -2,25 +2,20 @@
 // its editor, the two group dialogs driven by clicks, the pick in the model through a host
 // dialog, and the German words the combo and the page have to share.
 #include "DesignParameter.h"
-#include "DesignParameterTable.h"
 #include "designstore.h"
 #include "designtest.h"
 #include "dlgSelection.h"
 
 #include <VKD_H_SelGRP_Dialog.h>
-#include <VKD_H_ZOBDoc.h>
 #include <VKD_QT4_ComboBox.h>
 #include <VKD_QT_Dialog.h>
 #include <VKD_QT_Layouts.h>
-#include <demomodel.h>
 #include <vkd_dbo.h>
 #include <vkd_h_grouppick.h>
 
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QTranslator>
 #include <QTreeWidget>
-#include <QtTest>
 
 using GroupList = std::vector<int>;
 
@@ -51,29 +46,28 @@ QString entriesText(const QComboBox* combo)
 
 // Answers the next group dialog as a person would: notes each line of its list (check mark,
 // group, title and note), then runs the steps, space separated: "filter:<text>", or the object
-// name of a button to click.
+// name of a button to click. No group, title or note may be cut short, and one click must empty
+// the filter.
 void answerGroupDialog(QString* seen, const QString& steps)
 {
     onModal([](QWidget* w) { return w->findChild<QTreeWidget*>(QStringLiteral("groupList")) != nullptr; },
             [seen, steps](QWidget* dialog) {
                 auto* list = dialog->findChild<QTreeWidget*>(QStringLiteral("groupList"));
+                auto* filter = dialog->findChild<QLineEdit*>(QStringLiteral("groupFilter"));
                 QStringList lines, cut;
                 for (int i = 0; i < list->topLevelItemCount(); ++i) {
                     const QTreeWidgetItem* item = list->topLevelItem(i);
                     lines << QStringLiteral("%1 %2|%3|%4")
-                                 .arg(item->checkState(0) == Qt::Checked ? QLatin1Char('x')
-                                                                         : QLatin1Char('-'))
+                                 .arg(item->checkState(0) == Qt::Checked ? 'x' : '-')
                                  .arg(item->text(0), item->text(1), item->text(2));
                     for (int c = 0; c < 3; ++c)
                         if (list->columnWidth(c) < list->fontMetrics().horizontalAdvance(item->text(c)))
                             cut << item->text(c);
                 }
                 *seen = lines.join(QStringLiteral(" / "));
-                const bool clearable =
-                    dialog->findChild<QLineEdit*>(QStringLiteral("groupFilter"))->isClearButtonEnabled();
-                for (const QString& step : steps.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+                const bool clearable = filter->isClearButtonEnabled();
+                for (const QString& step : steps.split(' ', Qt::SkipEmptyParts)) {
                     if (step.startsWith(QLatin1String("filter:"))) {
-                        auto* filter = dialog->findChild<QLineEdit*>(QStringLiteral("groupFilter"));
                         filter->clear();
                         QTest::keyClicks(filter, step.mid(7));
                     } else if (auto* button = dialog->findChild<QPushButton*>(step)) {
@@ -82,8 +76,7 @@ void answerGroupDialog(QString* seen, const QString& steps)
                         QFAIL(qPrintable(QStringLiteral("no step ") + step));
                     }
                 }
-                // Looked at once the steps closed the dialog: no group, title or note cut short, and a
-                // filter that one click empties.
+                // Looked at once the steps closed the dialog.
                 QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QStringLiteral(", "))));
                 QVERIFY(clearable);
             });
@@ -141,16 +134,10 @@ class TestGroupSelection : public QObject
         return m_page;
     }
 
-    QTableWidget* table() const { return m_page->findChild<QTableWidget*>(QStringLiteral("table")); }
+    QTableWidget* table() const { return tableOf(m_page); }
     dlgSelection* editor() const
     {
         return qobject_cast<dlgSelection*>(table()->cellWidget(table()->currentRow(), 0));
-    }
-    void clickCell(int row, int column)
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QTest::mouseClick(table()->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          table()->visualRect(table()->model()->index(row, column)).center());
     }
 
     // Steps separated by "|": "at R" clicks the groups cell of row R, "type R" its type cell,
@@ -163,7 +150,7 @@ class TestGroupSelection : public QObject
         for (const QString& step : steps.split(QLatin1Char('|'))) {
             const QString argument = step.section(QLatin1Char(' '), 1);
             if (step.startsWith(QLatin1String("at ")) || step.startsWith(QLatin1String("type "))) {
-                clickCell(argument.toInt(), step.startsWith(QLatin1String("at ")) ? 0 : 1);
+                clickCell(table(), argument.toInt(), step.startsWith(QLatin1String("at ")) ? 0 : 1);
                 continue;
             }
             dlgSelection* e = editor();
@@ -283,7 +270,7 @@ private slots:
         GroupList list;
         auto look = [&] {
             if (!editor())
-                clickCell(1, 0);
+                clickCell(table(), 1, 0);
             seen << QStringLiteral("%1 %2")
                         .arg(host.reopenConnections())
                         .arg(entriesText(editor()->comboGroups));
