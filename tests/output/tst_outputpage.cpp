@@ -359,17 +359,18 @@ private slots:
         VKD_P_WidgetGraphicalOutput_AdditionalData tag;
         group.getRadioButton(1)->click();
         tag.setWidget(p.page, &group, QStringLiteral("Quad"), 1);
-        QStringList plots{QString::number(p.plot()->parent()->childCount())};
+        const auto plots = [&p] { return p.plot()->parent()->childCount(); };
+        QList<int> counts{plots()};
         for (int click : {1, 1, 2, 1, 0}) {
             group.getRadioButton(click)->click();
-            plots << QString::number(p.plot()->parent()->childCount());
+            counts << plots();
         }
         tag.clicked(1);
-        plots << QString::number(p.plot()->parent()->childCount());
+        counts << plots();
         tag.clicked(1);
         tag.clicked(0);
-        plots << QString::number(p.plot()->parent()->childCount());
-        QCOMPARE(plots.join(QLatin1Char(' ')), QStringLiteral("2 3 3 2 3 2 3 2"));
+        counts << plots();
+        QCOMPARE(counts, (QList<int>{2, 3, 3, 2, 3, 2, 3, 2}));
     }
 
     // Whatever a value holds comes back unchanged, the first of two parts with the same tag, and
@@ -408,29 +409,26 @@ private slots:
     }
 
     // The string of a page, tree choice included; a new page that reads it writes it again.
-    void roundTrip_data()
-    {
-        QTest::addColumn<int>("progname");
-        QTest::newRow("standard-defaults") << int(GraphicalOutputStandard);
-        QTest::newRow("standard-set") << int(GraphicalOutputStandard);
-        QTest::newRow("split-set") << int(GraphicalOutputSplit);
-    }
     void roundTrip()
     {
-        QFETCH(int, progname);
-        Page written(progname);
-        if (QByteArray(QTest::currentDataTag()).endsWith("set")) {
-            written.setDistinct();
-            written.get<VKD_H_BoxedLineEdit>()->setText(QStringLiteral("2,5"));
-            written.plot(0)->setCheckState(0, Qt::Checked);
-            written.plot(1)->setCheckState(0, Qt::Unchecked);
+        const std::pair<int, const char*> cases[] = {{GraphicalOutputStandard, "standard-defaults"},
+                                                     {GraphicalOutputStandard, "standard-set"},
+                                                     {GraphicalOutputSplit, "split-set"}};
+        for (const auto& [progname, name] : cases) {
+            Page written(progname);
+            if (QByteArray(name).endsWith("set")) {
+                written.setDistinct();
+                written.get<VKD_H_BoxedLineEdit>()->setText(QStringLiteral("2,5"));
+                written.plot(0)->setCheckState(0, Qt::Checked);
+                written.plot(1)->setCheckState(0, Qt::Unchecked);
+            }
+            const QString xml = written.page->writeXMLstring();
+            QVERIFY(matchesReference(xml + '\n', QStringLiteral("state-%1.txt").arg(name)));
+            Page read(progname);
+            read.page->readXMLstring(xml);
+            QCOMPARE(read.state(), written.state());
+            QCOMPARE(read.page->writeXMLstring(), xml);
         }
-        const QString xml = written.page->writeXMLstring();
-        QVERIFY(matchesReference(xml + '\n', QStringLiteral("state-%1.txt").arg(QTest::currentDataTag())));
-        Page read(progname);
-        read.page->readXMLstring(xml);
-        QCOMPARE(read.state(), written.state());
-        QCOMPARE(read.page->writeXMLstring(), xml);
     }
 
     // Each rule of reading; see the reference file. The tree's choice stays when the string has

@@ -171,27 +171,6 @@ private slots:
         QCOMPARE(plotLines(text), expected);
     }
 
-    // The project's file name in the opening lines, the quads of its model; without a project
-    // neither.
-    void environmentOfAProject()
-    {
-        QCOMPARE(vkd::dbo::currentProject(), 0); // none open yet: the scratch database
-        QTemporaryDir dir;
-        VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("bridge.vkd")));
-        VKD_H_PluginParameter parameter(&doc);
-        const SuiteScriptEnvironment environment(&parameter);
-        QCOMPARE(environment.programStart(),
-                 QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n$ Graphical Output: bridge.vkd\n"));
-        QCOMPARE(environment.programEnd(true) + environment.programEnd(false), QStringLiteral("ENDENDE"));
-        QVERIFY(!environment.modelHasQuads());
-        vkd::dbo::writeAll(doc.index(), vkd::dbo::KeyQuads,
-                           std::vector<vkd::dbo::ElementRecord>{{1, 1, {1, 2, 3, 4}}});
-        QVERIFY(environment.modelHasQuads());
-        const SuiteScriptEnvironment none(nullptr);
-        QCOMPARE(none.programStart(), QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n"));
-        QVERIFY(!none.modelHasQuads());
-    }
-
     // The stored camera as the script's standpoint and as stored again; one that does not parse is
     // not stored.
     void camera_data()
