@@ -27,14 +27,6 @@ inline QString shape(const QTreeWidgetItem* item)
                               : out + QLatin1Char('(') + children.join(QLatin1Char(' ')) + QLatin1Char(')');
 }
 
-inline QString shape(const QTreeWidget& tree)
-{
-    QStringList tops;
-    for (int i = 0; i < tree.topLevelItemCount(); ++i)
-        tops << shape(tree.topLevelItem(i));
-    return tops.join(QLatin1Char(' '));
-}
-
 // A catalogue line offered on pages 1 and 122 whatever the model holds. A caption "@Xnn text"
 // shows text and has the identifier @Xnn; the script "EMPTY" stands for none.
 QByteArray rec(const QString& title1, const QString& title2, const QString& title3,
@@ -70,7 +62,13 @@ struct Tree
             item = item ? item->child(i) : view->topLevelItem(i);
         return item;
     }
-    QString shape() const { return ::shape(*view); }
+    QString shape() const
+    {
+        QStringList tops;
+        for (int i = 0; i < view->topLevelItemCount(); ++i)
+            tops << ::shape(view->topLevelItem(i));
+        return tops.join(QLatin1Char(' '));
+    }
 
     VKD_H_PluginParameter parameter;
     std::unique_ptr<GraphicalOutputTreeWidget> view;

@@ -74,13 +74,6 @@ void hand(ScriptLineSink& sink, const QStringList& steps)
     }
 }
 
-// The plot lines of a script: what stands between the page setup and the closing line.
-QString plotLines(const QString& script)
-{
-    const int start = script.indexOf(QLatin1String("FORM STAN\n")) + 10;
-    return script.mid(start, script.lastIndexOf(QLatin1String("END")) - start);
-}
-
 } // namespace
 
 class ScriptTest : public QObject
@@ -168,7 +161,9 @@ private slots:
         const QString text = scriptFromWriter(
             settings, [&steps](ScriptLineSink& sink) { hand(sink, steps); }, QString(), true,
             FixedEnvironment());
-        QCOMPARE(plotLines(text), expected);
+        // The plot lines stand between the page setup and the closing line.
+        const int start = text.indexOf(QLatin1String("FORM STAN\n")) + 10;
+        QCOMPARE(text.mid(start, text.lastIndexOf(QLatin1String("END")) - start), expected);
     }
 
     // The stored camera as the script's standpoint and as stored again; one that does not parse is
