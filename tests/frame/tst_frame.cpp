@@ -1,5 +1,4 @@
 #include "VKD_P_Frame.h"
-#include "VKD_P_Mix_UnitTest.h"
 #include "languagefile.h"
 
 #include <QDir>
@@ -62,16 +61,6 @@ private slots:
                 QCOMPARE(QImage(QStringLiteral(":/") + large).size(), image.size() * 2);
         }
         QVERIFY(VKD_H_PluginFactory(QStringLiteral("VKD_P_DesignParameter")) == nullptr);
-    }
-
-    // The last LOGPATH: argument names the folder; every tag in it goes, whatever its case.
-    void logFile()
-    {
-        QCOMPARE(unitTestLogFile({}), QDir::separator() + QStringLiteral("VKD_P_Mix_UnitTest.log"));
-        QCOMPARE(unitTestLogFile({"logpath:/y/"}), "/y/VKD_P_Mix_UnitTest.log");
-        QCOMPARE(unitTestLogFile({"logpath:/a", "other", "LOGPATH:/b"}), "/b/VKD_P_Mix_UnitTest.log");
-        QCOMPARE(unitTestLogFile({"logpath:/c/logpath:d"}), "/c/d/VKD_P_Mix_UnitTest.log");
-        QCOMPARE(unitTestLogFile({"-LOGPATH:/e"}), "-/e/VKD_P_Mix_UnitTest.log");
     }
 
     // The self-check passes and keeps the language; the translators of the library and of the

@@ -110,9 +110,9 @@ private slots:
             QVERIFY(written.open(QIODevice::ReadOnly));
             QCOMPARE(QString::fromUtf8(written.readAll()), script);
         }
-        QVERIFY(script.contains(QLatin1String("SIZE URS SC 0 MARG NO FORM STAN\n")));
-        QVERIFY(script.contains(QLatin1String("TEND QUAD GEOM YES NUMB YES")));
-        QVERIFY(script.contains(QLatin1String("LC 3")) && !script.contains(QLatin1String("LC 4")));
+        for (const char* part : {"SIZE URS SC 0 MARG NO FORM STAN\n", "TEND QUAD GEOM YES NUMB YES", "LC 3"})
+            QVERIFY2(script.contains(QLatin1String(part)), part);
+        QVERIFY(!script.contains(QLatin1String("LC 4")));
         VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
         PlibHostDialog host(&doc);
         QVERIFY(radio(host.outputPage(), "FormatGroup", 1)->isChecked());
@@ -238,9 +238,8 @@ private slots:
         QFETCH(int, status);
         QFETCH(QString, said);
         const Project project;
-        const QTemporaryDir& dir = project.dir;
-        const QString damaged = dir.filePath(QStringLiteral("damaged.vkd"));
-        const QString missing = dir.filePath(QStringLiteral("missing"));
+        const QString damaged = project.dir.filePath(QStringLiteral("damaged.vkd"));
+        const QString missing = project.dir.filePath(QStringLiteral("missing"));
         const QString& demo = project.path;
         {
             QFile f(damaged);
@@ -252,7 +251,7 @@ private slots:
         arguments.replaceInStrings(QStringLiteral("~"), missing);
 
         QProcess run;
-        run.setWorkingDirectory(dir.path());
+        run.setWorkingDirectory(project.dir.path());
         run.start(program, arguments);
         QVERIFY(run.waitForFinished(30000));
         const QString err = QString::fromLocal8Bit(run.readAllStandardError());
@@ -264,7 +263,7 @@ private slots:
         // Nothing made, nothing changed.
         QCOMPARE(hashOf(damaged) + hashOf(demo), before);
         QVERIFY(!QFileInfo::exists(missing));
-        QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::NoDotAndDotDot).size(), 2);
+        QCOMPARE(QDir(project.dir.path()).entryList(QDir::Files | QDir::NoDotAndDotDot).size(), 2);
     }
 };
 
