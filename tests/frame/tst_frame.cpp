@@ -1,4 +1,5 @@
 #include "VKD_P_Frame.h"
+#include "VKD_P_Mix_UnitTest.h"
 #include "languagefile.h"
 
 #include <QDir>
@@ -61,6 +62,11 @@ private slots:
                 QCOMPARE(QImage(QStringLiteral(":/") + large).size(), image.size() * 2);
         }
         QVERIFY(VKD_H_PluginFactory(QStringLiteral("VKD_P_DesignParameter")) == nullptr);
+    }
+
+    void logFileOfTheLastPathWithoutItsTags()
+    {
+        QCOMPARE(unitTestLogFile({"logpath:/a/", "LOGPATH:/b/logpath:c/"}), "/b/c/VKD_P_Mix_UnitTest.log");
     }
 
     // The self-check passes and keeps the language; the translators of the library and of the
