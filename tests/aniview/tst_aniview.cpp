@@ -10,56 +10,18 @@ class TestAniview : public QObject
 {
     Q_OBJECT
 private slots:
-    // Each fixed view as GRAV reads its standpoint, at zoom 1 and no pan whatever came before.
-    void commands_data()
-    {
-        QTest::addColumn<int>("command");
-        QTest::addColumn<QString>("standpoint");
-        QTest::newRow("0, 3D standard") << 0 << "X 0.4532 Y -0.7849 Z 0.4226";
-        QTest::newRow("3, X/Y") << 3 << "X 0 Y 0 Z 1";
-        QTest::newRow("4, X/Z") << 4 << "X 0 Y -1 Z 0";
-        QTest::newRow("5, Y/Z") << 5 << "X 1 Y 0 Z 0";
-    }
+    // Each fixed view (0, 3, 4, 5) as GRAV reads its standpoint, at zoom 1 and no pan whatever came before.
     void commands()
     {
-        QFETCH(int, command);
-        QFETCH(QString, standpoint);
-        AnimatorView view(0);
-        view.setCamera({200, -40, 3, 0.5, 0.5});
-        view.slotViewControl(AnimatorViewControl(command), 0.0);
-        QCOMPARE(view.cameraText(CameraScriptForm), standpoint);
-        QCOMPARE(view.cameraText(CameraPersistentForm).section(' ', 2), QStringLiteral("1 0 0"));
-    }
-
-    // Left drag turns, middle drag pans, the wheel zooms; a disabled preview keeps its camera.
-    void mouse_data()
-    {
-        QTest::addColumn<bool>("enabled");
-        QTest::addColumn<int>("button");
-        QTest::addColumn<QString>("camera");
-        QTest::newRow("left drag") << true << int(Qt::LeftButton) << "10 35 1 0 0";
-        QTest::newRow("middle drag") << true << int(Qt::MiddleButton) << "30 25 1 0.1 0.1";
-        QTest::newRow("wheel") << true << 0 << "30 25 1.3225 0 0";
-        QTest::newRow("left drag, disabled") << false << int(Qt::LeftButton) << "30 25 1 0 0";
-        QTest::newRow("wheel, disabled") << false << 0 << "30 25 1 0 0";
-    }
-    void mouse()
-    {
-        QFETCH(bool, enabled);
-        QFETCH(int, button);
-        QFETCH(QString, camera);
-        AnimatorView view(0);
-        view.resize(400, 200);
-        view.setEnabled(enabled);
-        const auto b = Qt::MouseButton(button);
-        QMouseEvent press(QEvent::MouseButtonPress, QPointF(100, 100), b, b, {});
-        QMouseEvent move(QEvent::MouseMove, QPointF(140, 120), b, b, {});
-        QWheelEvent wheel(QPointF(), QPointF(), {}, {0, 240}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
-        const std::vector<QEvent*> events =
-            button ? std::vector<QEvent*>{&press, &move} : std::vector<QEvent*>{&wheel};
-        for (QEvent* e : events)
-            QApplication::sendEvent(&view, e);
-        QCOMPARE(view.cameraText(CameraPersistentForm), camera);
+        const std::pair<int, const char*> views[] = {
+            {0, "X 0.4532 Y -0.7849 Z 0.4226"}, {3, "X 0 Y 0 Z 1"}, {4, "X 0 Y -1 Z 0"}, {5, "X 1 Y 0 Z 0"}};
+        for (const auto& [command, standpoint] : views) {
+            AnimatorView view(0);
+            view.setCamera({200, -40, 3, 0.5, 0.5});
+            view.slotViewControl(AnimatorViewControl(command), 0.0);
+            QCOMPARE(view.cameraText(CameraScriptForm), standpoint);
+            QCOMPARE(view.cameraText(CameraPersistentForm).section(' ', 2), QStringLiteral("1 0 0"));
+        }
     }
 
     // Seen from above, two squares one above the other with a beam between them: X to the right,
@@ -102,20 +64,17 @@ private slots:
         QCOMPARE(scene.groupAt({20, 110}), -1);
         QCOMPARE(scene.groupsIn(QRectF(0, 0, 200, 200)), (std::vector<int>{1, 5, 7}));
         QCOMPARE(scene.groupsIn(QRectF(60, 60, 80, 80)), (std::vector<int>{5, 7}));
-        // A model loaded again under the same camera is projected anew.
-        scene.setModel({}, {}, {});
-        QVERIFY(scene.project(view.camera(), QSize(200, 200)).empty());
-    }
-
-    // Seen from above, a saddle whose diagonals lie level is shaded as the flat square beside it.
-    void saddle()
-    {
-        const std::vector<NodeRecord> nodes{{1, 0, 0, 0}, {2, 1, 0, 1}, {3, 1, 1, 0}, {4, 0, 1, 1},
-                                            {5, 2, 0, 0}, {6, 3, 0, 0}, {7, 3, 1, 0}, {8, 2, 1, 0}};
-        vkd::aniview::PreviewScene scene;
-        scene.setModel(nodes, {{1, 5, {1, 2, 3, 4}}, {2, 5, {5, 6, 7, 8}}}, {});
-        AnimatorView view(0);
-        view.slotViewControl(AnimatorPlaneXY, 0.0);
+        // A model loaded again under the same camera is projected anew: a saddle whose diagonals lie
+        // level is shaded as the flat square beside it.
+        scene.setModel({{1, 0, 0, 0},
+                        {2, 1, 0, 1},
+                        {3, 1, 1, 0},
+                        {4, 0, 1, 1},
+                        {5, 2, 0, 0},
+                        {6, 3, 0, 0},
+                        {7, 3, 1, 0},
+                        {8, 2, 1, 0}},
+                       {{1, 5, {1, 2, 3, 4}}, {2, 5, {5, 6, 7, 8}}}, {});
         QStringList fills;
         for (const DrawItem& item : scene.project(view.camera(), QSize(200, 200)))
             if (item.kind == DrawItem::Area)

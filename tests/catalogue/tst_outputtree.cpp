@@ -27,14 +27,6 @@ inline QString shape(const QTreeWidgetItem* item)
                               : out + QLatin1Char('(') + children.join(QLatin1Char(' ')) + QLatin1Char(')');
 }
 
-inline QString shape(const QTreeWidget& tree)
-{
-    QStringList tops;
-    for (int i = 0; i < tree.topLevelItemCount(); ++i)
-        tops << shape(tree.topLevelItem(i));
-    return tops.join(QLatin1Char(' '));
-}
-
 // A catalogue line offered on pages 1 and 122 whatever the model holds. A caption "@Xnn text"
 // shows text and has the identifier @Xnn; the script "EMPTY" stands for none.
 QByteArray rec(const QString& title1, const QString& title2, const QString& title3,
@@ -70,7 +62,13 @@ struct Tree
             item = item ? item->child(i) : view->topLevelItem(i);
         return item;
     }
-    QString shape() const { return ::shape(*view); }
+    QString shape() const
+    {
+        QStringList tops;
+        for (int i = 0; i < view->topLevelItemCount(); ++i)
+            tops << ::shape(view->topLevelItem(i));
+        return tops.join(QLatin1Char(' '));
+    }
 
     VKD_H_PluginParameter parameter;
     std::unique_ptr<GraphicalOutputTreeWidget> view;
@@ -153,31 +151,25 @@ private slots:
                  t.at({0, 0, 0}));
     }
 
-    void scriptLines_data()
-    {
-        QTest::addColumn<int>("progname");
-        QTest::addColumn<QString>("reference");
-        QTest::newRow("results page") << 1 << "treelines.txt";
-        QTest::newRow("split page") << 122 << "treelines-122.txt";
-    }
-
     // Depth first; unchecked items and items without a script of their own make no line; the caption
-    // above a plot decides on UNIT: its first record, d, also for e.
+    // above a plot decides on UNIT: its first record, d, also for e. On the results page and the
+    // split page.
     void scriptLines()
     {
-        QFETCH(int, progname);
-        QFETCH(QString, reference);
-        Tree t(rec("T", "C", "a", "none", 0, 2, "All", "A") +
-                   rec("T", "C", "b", "last-l", 0, 0, "All", "B $(LFNR)") +
-                   rec("T", "C", "c", "last", 0, 0, "All", "C") +
-                   rec("U", "D", "d", "last-l", 2, 0, "All", "D UNIT 1") +
-                   rec("U", "D", "e", "last-l", 2, 0, "All", "E") +
-                   rec("V", "E", "f", "none", 0, 0, "All", "F"),
-               progname, {{1, 3, "3 : r3"}, {1, 5, "5+3: r5"}});
-        t.at({0, 0, 1, 1})->setCheckState(0, Qt::Checked); // b, row 5
-        t.at({0, 0, 2})->setCheckState(0, Qt::Checked);    // c has no rows and no line
-        t.at({2, 0, 0})->setCheckState(0, Qt::Unchecked);  // f
-        QVERIFY(matchesReference(scriptText(*t.view), reference));
+        for (const int progname : {1, 122}) {
+            Tree t(rec("T", "C", "a", "none", 0, 2, "All", "A") +
+                       rec("T", "C", "b", "last-l", 0, 0, "All", "B $(LFNR)") +
+                       rec("T", "C", "c", "last", 0, 0, "All", "C") +
+                       rec("U", "D", "d", "last-l", 2, 0, "All", "D UNIT 1") +
+                       rec("U", "D", "e", "last-l", 2, 0, "All", "E") +
+                       rec("V", "E", "f", "none", 0, 0, "All", "F"),
+                   progname, {{1, 3, "3 : r3"}, {1, 5, "5+3: r5"}});
+            t.at({0, 0, 1, 1})->setCheckState(0, Qt::Checked); // b, row 5
+            t.at({0, 0, 2})->setCheckState(0, Qt::Checked);    // c has no rows and no line
+            t.at({2, 0, 0})->setCheckState(0, Qt::Unchecked);  // f
+            QVERIFY(
+                matchesReference(scriptText(*t.view), progname == 1 ? "treelines.txt" : "treelines-122.txt"));
+        }
     }
 
     void scriptLinesByHand_data()

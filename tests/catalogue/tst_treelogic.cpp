@@ -59,22 +59,14 @@ class TestTreeLogic : public QObject
 
 private slots:
 
-    void systemBit_data()
+    // Plane stress systems are 10, 11, 14 and 15; kinds count by tens, towards zero.
+    void systemBit()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<int>("bit");
-        // Plane stress systems are 10, 11, 14 and 15; kinds count by tens, towards zero.
         const std::pair<int, int> table[] = {{-9, 8}, {10, 1}, {13, 2},  {14, 1},  {25, 8},
                                              {35, 4}, {45, 0}, {50, 15}, {-10, 15}};
         for (const auto& [kind, bit] : table)
-            QTest::addRow("kind %d", kind) << kind << bit;
-    }
-
-    void systemBit()
-    {
-        QFETCH(int, kind);
-        QFETCH(int, bit);
-        QCOMPARE(vkd::plib::widgetgraphicaloutput::systemBit(kind), bit);
+            QVERIFY2(vkd::plib::widgetgraphicaloutput::systemBit(kind) == bit,
+                     qPrintable(QString::number(kind)));
     }
 
     // Whether a record of the programs 3, 0 and 5 is offered to a page, and whether the kind of
@@ -97,59 +89,41 @@ private slots:
         }));
     }
 
-    void scriptLines_data()
-    {
-        QTest::addColumn<bool>("english");
-        QTest::addColumn<QString>("reference");
-        QTest::newRow("English keywords") << true << "scriptlines-en.txt";
-        QTest::newRow("German keywords") << false << "scriptlines-de.txt";
-    }
-
-    // The lines of the scenarios, each under its title.
+    // The lines of the scenarios, each under its title, with English and German keywords.
     void scriptLines()
     {
-        QFETCH(bool, english);
-        QFETCH(QString, reference);
-        QString text;
-        for (const Scenario& scenario : scenarios) {
-            ScriptContext context(english, scenario.progname, [&scenario] { return scenario.kindOfSystem; });
-            std::vector<QString> lines;
-            GraphicalOutputRecord caption;
-            caption.scriptEnglish = caption.scriptGerman = QStringLiteral("STRU");
-            for (const Entry& e : scenario.entries) {
-                GraphicalOutputRecord record;
-                record.viewKind = e.viewKind;
-                record.scriptEnglish = QStringLiteral("PICT ") + QLatin1String(e.name);
-                record.scriptGerman = QStringLiteral("BILD ") + QLatin1String(e.name);
-                const QString label = QLatin1String(e.label);
-                appendScriptLines(context, ScriptEntry{record, e.number, label, &caption}, lines);
+        for (const bool english : {true, false}) {
+            QString text;
+            for (const Scenario& scenario : scenarios) {
+                ScriptContext context(english, scenario.progname,
+                                      [&scenario] { return scenario.kindOfSystem; });
+                std::vector<QString> lines;
+                GraphicalOutputRecord caption;
+                caption.scriptEnglish = caption.scriptGerman = QStringLiteral("STRU");
+                for (const Entry& e : scenario.entries) {
+                    GraphicalOutputRecord record;
+                    record.viewKind = e.viewKind;
+                    record.scriptEnglish = QStringLiteral("PICT ") + QLatin1String(e.name);
+                    record.scriptGerman = QStringLiteral("BILD ") + QLatin1String(e.name);
+                    appendScriptLines(context,
+                                      ScriptEntry{record, e.number, QLatin1String(e.label), &caption}, lines);
+                }
+                text += QStringLiteral("== %1\n").arg(QLatin1String(scenario.title));
+                for (const QString& line : lines)
+                    text += line + QLatin1Char('\n');
             }
-            text += QStringLiteral("== %1\n").arg(QLatin1String(scenario.title));
-            for (const QString& line : lines)
-                text += line + QLatin1Char('\n');
+            QVERIFY(matchesReference(text, english ? "scriptlines-en.txt" : "scriptlines-de.txt"));
         }
-        QVERIFY(matchesReference(text, reference));
     }
 
-    void secondCase_data()
-    {
-        QTest::addColumn<QString>("label");
-        QTest::addColumn<bool>("asks");
-        QTest::addColumn<int>("second");
-        QTest::newRow("no colon: first five characters") << "123456+8" << false << 0;
-        QTest::newRow("plus in the title") << "3: 4+5" << false << 0;
-        QTest::newRow("second case no number") << "5+x: y" << true << -1;
-    }
-
+    // The second load case of a row's label: none without a colon or with the plus behind it.
     void secondCase()
     {
-        QFETCH(QString, label);
-        QFETCH(bool, asks);
-        QFETCH(int, second);
+        using vkd::plib::widgetgraphicaloutput::secondCase;
         int found = 0;
-        QCOMPARE(vkd::plib::widgetgraphicaloutput::secondCase(label, &found), asks);
-        if (asks)
-            QCOMPARE(found, second);
+        QVERIFY(!secondCase("123456+8", &found) && !secondCase("3: 4+5", &found));
+        QVERIFY(secondCase("5+x: y", &found));
+        QCOMPARE(found, -1);
     }
 };
 

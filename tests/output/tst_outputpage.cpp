@@ -1,6 +1,6 @@
 // The output page: its widgets in both languages, the sheet division icons, the settings in the
-// script, the load case rows from a host's table, the tag switch, its persistent string and the
-// traffic between its view group and the 3D preview.
+// script, the load case rows from a host's table, its persistent string and the traffic between its view
+// group and the 3D preview.
 #include "GraphicalOutputTreeWidget.h"
 #include "VKD_P_WidgetGraphicalOutput.h"
 #include "pagespliticons.h"
@@ -350,87 +350,50 @@ private slots:
         QCOMPARE(p.rows(), QString());
     }
 
-    // Each click on the tag's button declares it once more; a click on another withdraws it.
-    void additionalTag()
-    {
-        Page p;
-        VKD_QT_RadioButtonGroup group(QStringLiteral("host"), std::vector<StructRadioButtonGrup>(3), nullptr,
-                                      "host", Qt::Vertical, -1);
-        VKD_P_WidgetGraphicalOutput_AdditionalData tag;
-        group.getRadioButton(1)->click();
-        tag.setWidget(p.page, &group, QStringLiteral("Quad"), 1);
-        QStringList plots{QString::number(p.plot()->parent()->childCount())};
-        for (int click : {1, 1, 2, 1, 0}) {
-            group.getRadioButton(click)->click();
-            plots << QString::number(p.plot()->parent()->childCount());
-        }
-        tag.clicked(1);
-        plots << QString::number(p.plot()->parent()->childCount());
-        tag.clicked(1);
-        tag.clicked(0);
-        plots << QString::number(p.plot()->parent()->childCount());
-        QCOMPARE(plots.join(QLatin1Char(' ')), QStringLiteral("2 3 3 2 3 2 3 2"));
-    }
-
     // Whatever a value holds comes back unchanged, the first of two parts with the same tag, and
     // the second from a position inside the first; a missing or broken part, or none behind the
-    // position, gives a null string, an empty value an empty one.
-    void xmlParts_data()
-    {
-        QTest::addColumn<QString>("xml");
-        QTest::addColumn<QString>("value");
-        const char* values[][2] = {
-            {"empty", ""}, {"its own tags", "<a <b>>7</a <b>>"}, {"ampersands, entities", "& &amp; &#60;"}};
-        for (const auto& v : values) {
-            const QString value = QString::fromUtf8(v[1]);
-            QTest::newRow(v[0]) << vkd_qt_writeXMLpart(value, "a <b>") + vkd_qt_writeXMLpart("2", "a <b>")
-                                << value;
-        }
-        QTest::newRow("missing tag") << "<a <b>>1</a <b>><A &lt;b&gt;>1</A &lt;b&gt;>" << QString();
-        QTest::newRow("not closed") << "<a &lt;b&gt;>12</a &lt;b&gt" << QString();
-        QTest::newRow("unknown entity kept")
-            << "<a &lt;b&gt;>&nbsp;&amp</a &lt;b&gt;><a &lt;b&gt;>2</a &lt;b&gt;>"
-            << "&nbsp;&amp";
-    }
+    // position, gives a null string, an empty value an empty one; an unknown entity stays.
     void xmlParts()
     {
-        QFETCH(QString, xml);
-        QFETCH(QString, value);
-        int next = 0;
-        const QString read = vkd_qt_readXMLpart(xml, 0, QStringLiteral("a <b>"), &next);
-        QCOMPARE(read.isNull(), value.isNull());
-        QCOMPARE(read, value);
-        QCOMPARE(next, value.isNull() ? -1 : int(xml.indexOf("<a &lt;b&gt;>2")));
-        if (!value.isNull())
-            QCOMPARE(
-                vkd_qt_readXMLpart(xml, xml.indexOf("</a &lt;b&gt;>") + 1, QStringLiteral("a <b>"), &next),
-                "2");
+        const QString tag = QStringLiteral("a <b>");
+        std::vector<std::pair<QString, QString>> cases;
+        for (const char* value : {"", "<a <b>>7</a <b>>", "& &amp; &#60;"}) // its own tags, entities
+            cases.emplace_back(vkd_qt_writeXMLpart(value, tag) + vkd_qt_writeXMLpart("2", tag), value);
+        cases.emplace_back("<a <b>>1</a <b>><A &lt;b&gt;>1</A &lt;b&gt;>", QString()); // tag missing
+        cases.emplace_back("<a &lt;b&gt;>12</a &lt;b&gt", QString());                  // not closed
+        cases.emplace_back("<a &lt;b&gt;>&nbsp;&amp</a &lt;b&gt;><a &lt;b&gt;>2</a &lt;b&gt;>", "&nbsp;&amp");
+        for (const auto& [xml, value] : cases) {
+            int next = 0;
+            const QString read = vkd_qt_readXMLpart(xml, 0, tag, &next);
+            QCOMPARE(read.isNull(), value.isNull());
+            QCOMPARE(read, value);
+            QCOMPARE(next, value.isNull() ? -1 : int(xml.indexOf("<a &lt;b&gt;>2")));
+            if (!value.isNull())
+                QCOMPARE(vkd_qt_readXMLpart(xml, xml.indexOf("</a &lt;b&gt;>") + 1, tag, &next), "2");
+        }
     }
 
     // The string of a page, tree choice included; a new page that reads it writes it again.
-    void roundTrip_data()
-    {
-        QTest::addColumn<int>("progname");
-        QTest::newRow("standard-defaults") << int(GraphicalOutputStandard);
-        QTest::newRow("standard-set") << int(GraphicalOutputStandard);
-        QTest::newRow("split-set") << int(GraphicalOutputSplit);
-    }
     void roundTrip()
     {
-        QFETCH(int, progname);
-        Page written(progname);
-        if (QByteArray(QTest::currentDataTag()).endsWith("set")) {
-            written.setDistinct();
-            written.get<VKD_H_BoxedLineEdit>()->setText(QStringLiteral("2,5"));
-            written.plot(0)->setCheckState(0, Qt::Checked);
-            written.plot(1)->setCheckState(0, Qt::Unchecked);
+        const std::pair<int, const char*> cases[] = {{GraphicalOutputStandard, "standard-defaults"},
+                                                     {GraphicalOutputStandard, "standard-set"},
+                                                     {GraphicalOutputSplit, "split-set"}};
+        for (const auto& [progname, name] : cases) {
+            Page written(progname);
+            if (QByteArray(name).endsWith("set")) {
+                written.setDistinct();
+                written.get<VKD_H_BoxedLineEdit>()->setText(QStringLiteral("2,5"));
+                written.plot(0)->setCheckState(0, Qt::Checked);
+                written.plot(1)->setCheckState(0, Qt::Unchecked);
+            }
+            const QString xml = written.page->writeXMLstring();
+            QVERIFY(matchesReference(xml + '\n', QStringLiteral("state-%1.txt").arg(name)));
+            Page read(progname);
+            read.page->readXMLstring(xml);
+            QCOMPARE(read.state(), written.state());
+            QCOMPARE(read.page->writeXMLstring(), xml);
         }
-        const QString xml = written.page->writeXMLstring();
-        QVERIFY(matchesReference(xml + '\n', QStringLiteral("state-%1.txt").arg(QTest::currentDataTag())));
-        Page read(progname);
-        read.page->readXMLstring(xml);
-        QCOMPARE(read.state(), written.state());
-        QCOMPARE(read.page->writeXMLstring(), xml);
     }
 
     // Each rule of reading; see the reference file. The tree's choice stays when the string has

@@ -74,13 +74,6 @@ void hand(ScriptLineSink& sink, const QStringList& steps)
     }
 }
 
-// The plot lines of a script: what stands between the page setup and the closing line.
-QString plotLines(const QString& script)
-{
-    const int start = script.indexOf(QLatin1String("FORM STAN\n")) + 10;
-    return script.mid(start, script.lastIndexOf(QLatin1String("END")) - start);
-}
-
 } // namespace
 
 class ScriptTest : public QObject
@@ -168,28 +161,9 @@ private slots:
         const QString text = scriptFromWriter(
             settings, [&steps](ScriptLineSink& sink) { hand(sink, steps); }, QString(), true,
             FixedEnvironment());
-        QCOMPARE(plotLines(text), expected);
-    }
-
-    // The project's file name in the opening lines, the quads of its model; without a project
-    // neither.
-    void environmentOfAProject()
-    {
-        QCOMPARE(vkd::dbo::currentProject(), 0); // none open yet: the scratch database
-        QTemporaryDir dir;
-        VKD_H_ZOBDoc doc(dir.filePath(QStringLiteral("bridge.vkd")));
-        VKD_H_PluginParameter parameter(&doc);
-        const SuiteScriptEnvironment environment(&parameter);
-        QCOMPARE(environment.programStart(),
-                 QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n$ Graphical Output: bridge.vkd\n"));
-        QCOMPARE(environment.programEnd(true) + environment.programEnd(false), QStringLiteral("ENDENDE"));
-        QVERIFY(!environment.modelHasQuads());
-        vkd::dbo::writeAll(doc.index(), vkd::dbo::KeyQuads,
-                           std::vector<vkd::dbo::ElementRecord>{{1, 1, {1, 2, 3, 4}}});
-        QVERIFY(environment.modelHasQuads());
-        const SuiteScriptEnvironment none(nullptr);
-        QCOMPARE(none.programStart(), QStringLiteral("+PROG GRAV echo:1 $ Graphical Output\n"));
-        QVERIFY(!none.modelHasQuads());
+        // The plot lines stand between the page setup and the closing line.
+        const int start = text.indexOf(QLatin1String("FORM STAN\n")) + 10;
+        QCOMPARE(text.mid(start, text.lastIndexOf(QLatin1String("END")) - start), expected);
     }
 
     // The stored camera as the script's standpoint and as stored again; one that does not parse is
