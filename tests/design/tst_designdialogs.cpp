@@ -282,13 +282,12 @@ private slots:
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("name");
         QTest::addColumn<float>("value");
-        QTest::addColumn<QString>("problem"); // empty: the type has no edit for the field
+        QTest::addColumn<QString>("problem");
         QTest::newRow("NaN distance")
             << 1 << "hio" << float(NAN)
             << "The stored value \"nan\" is not a number. Enter a value or empty the field.";
         QTest::newRow("reference point far out")
             << 4 << "yref" << 2.0e5f << "The value must lie between -99999.000 m and 99999.000 m.";
-        QTest::newRow("infinity without an edit in the type") << 1 << "rioi" << float(INFINITY) << "";
     }
 
     // The field is marked, and OK stays refused with the focus in it until it is emptied; then the
@@ -306,16 +305,14 @@ private slots:
         QApplication::setActiveWindow(&dialog);
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
         auto* edit = dialog.findChild<VKD_H_LineEdit*>(name);
-        QCOMPARE(edit ? edit->problemText() : QString(), problem);
-        if (edit) {
-            QVERIFY(edit->toolTip().startsWith(problem));
-            // Until the user fixes it, the edit gives back what it was given, never a zero.
-            QCOMPARE(QByteArray::number(edit->getVal()), QByteArray::number(double(value)));
-            dialogButton(&dialog)->click();
-            QVERIFY(dialog.isVisible());
-            QVERIFY(edit->hasFocus());
-            edit->clear();
-        }
+        QCOMPARE(edit->problemText(), problem);
+        QVERIFY(edit->toolTip().startsWith(problem));
+        // Until the user fixes it, the edit gives back what it was given, never a zero.
+        QCOMPARE(QByteArray::number(edit->getVal()), QByteArray::number(double(value)));
+        dialogButton(&dialog)->click();
+        QVERIFY(dialog.isVisible());
+        QVERIFY(edit->hasFocus());
+        edit->clear();
         dialogButton(&dialog)->click();
         QVERIFY(!dialog.isVisible());
         dialog.writeToRecord(&record);
@@ -399,7 +396,6 @@ private slots:
             << "buttons-direction-row1.txt";
         QTest::newRow("direction, OK on three layers") << direction << 3 << "rio=30" << false << true
             << "buttons-direction-row3.txt";
-        QTest::newRow("direction, Cancel") << direction << 2 << "hio=9" << false << false << "";
         QTest::newRow("reinforcement, OK") << reinforcement << 2 << "aso=5" << false << true
             << "buttons-reinforcement.txt";
         QTest::newRow("reinforcement, calculator, OK") << reinforcement << 0 << "m_pDIO=12" << true << true
@@ -407,7 +403,6 @@ private slots:
         QTest::newRow("reinforcement, calculator, Cancel") << reinforcement << 0 << "aso=5" << true << false << "";
         QTest::newRow("crack control, OK") << crack << 3 << "m_pSIGU=#7 m_pWKU=#1" << false << true
             << "buttons-crack.txt";
-        QTest::newRow("crack control, Cancel") << crack << 0 << "m_pWKO=0.3" << false << false << "";
         // clang-format on
     }
 

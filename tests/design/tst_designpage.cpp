@@ -15,7 +15,6 @@
 #include <QHeaderView>
 #include <QLayout>
 #include <QMenu>
-#include <QProcess>
 #include <QTextBrowser>
 
 #include <cstring>
@@ -123,37 +122,31 @@ QString runStep(VKD_P_DesignParameter* page, const QString& word, const QString&
     if (QStringList{"new", "delete", "up", "down"}.contains(word)) {
         QTest::mouseClick(button(page, QStringLiteral("btn") + word.at(0).toUpper() + word.mid(1)),
                           Qt::LeftButton);
-    } else if (word == QLatin1String("click") || word == QLatin1String("ctrl")) {
+    } else if (word == "click" || word == "ctrl") {
         clickCell(table, rest.section(',', 0, 0).toInt(), rest.section(',', 1).toInt(),
-                  word == QLatin1String("ctrl") ? Qt::ControlModifier : Qt::NoModifier);
-    } else if (word == QLatin1String("type")) {
+                  word == "ctrl" ? Qt::ControlModifier : Qt::NoModifier);
+    } else if (word == "type") {
         if (!chooseType(table, rest.section(' ', 0, 0).toInt(), rest.section(' ', 1)))
             return QStringLiteral("no such type");
-    } else if (word == QLatin1String("nocurrent")) {
+    } else if (word == "nocurrent") {
         // The table makes a cell current whenever it takes the focus.
         button(page, QStringLiteral("btnUp"))->setFocus();
         table->selectionModel()->clearCurrentIndex();
-    } else if (word == QLatin1String("menu")) {
+    } else if (word == "menu") {
         return menuStep(table, rest);
-    } else if (word == QLatin1String("check") || word == QLatin1String("ok")) {
-        BoxWatcher boxes(rest == QLatin1String("Yes") ? QMessageBox::Yes : QMessageBox::No);
+    } else {
+        BoxWatcher boxes(rest == "Yes" ? QMessageBox::Yes : QMessageBox::No);
         QString result = QStringLiteral("nothing");
-        if (word == QLatin1String("ok"))
+        if (word == "ok")
             QTest::mouseClick(qobject_cast<PlibHostDialog*>(page->window())->buttonRow()->cmdOk(),
                               Qt::LeftButton);
         else
-            result = page->checkVals() ? QStringLiteral("true") : QStringLiteral("false");
+            result = page->checkVals() ? "true" : "false";
         if (boxes.seen.isEmpty())
             return result;
-        const QString asked =
-            oneLine(boxes.seen.join('|')) + (boxes.buttons == (QMessageBox::Yes | QMessageBox::No)
-                                                 ? QStringLiteral(" (Yes, No)")
-                                                 : QStringLiteral(" (%1)").arg(int(boxes.buttons)));
-        return word == QLatin1String("ok") ? asked : result + QStringLiteral(", asked ") + asked;
-    } else if (word == QLatin1String("cancel")) {
-        QTest::mouseClick(page->window()->findChild<QPushButton*>(QStringLiteral("cancel")), Qt::LeftButton);
-    } else {
-        return QStringLiteral("unknown step");
+        const QString asked = oneLine(boxes.seen.join('|')) +
+                              (boxes.buttons == (QMessageBox::Yes | QMessageBox::No) ? " (Yes, No)" : " (?)");
+        return word == "ok" ? asked : result + ", asked " + asked;
     }
     return QString();
 }
@@ -164,22 +157,21 @@ QString state(VKD_P_DesignParameter* page, int index, const QString& key, QSigna
 {
     const DesignParameterTable* table = tableOf(page);
     QStringList values;
-    if (key == QLatin1String("rows") || key == QLatin1String("types")) {
-        QStringList cells;
+    if (key == "rows" || key == "types") {
         for (int r = 0; r < table->rowCount(); ++r) {
             auto* type = dynamic_cast<VKD_H_TwSimpleComboBoxItem*>(table->item(r, 1));
-            cells << (key == QLatin1String("rows") ? oneLine(table->item(r, 0)->text())
-                                                   : QString::number(type ? type->getCurrentId() : -1));
+            values << (key == "rows" ? oneLine(table->item(r, 0)->text())
+                                     : QString::number(type ? type->getCurrentId() : -1));
         }
-        values << cells.join(key == QLatin1String("rows") ? '|' : ' ');
-    } else if (key == QLatin1String("current")) {
+        values = QStringList{values.join(key == "rows" ? '|' : ' ')};
+    } else if (key == "current") {
         values << QStringLiteral("%1,%2").arg(table->currentRow()).arg(table->currentColumn());
-    } else if (key == QLatin1String("signals")) {
+    } else if (key == "signals") {
         for (const QList<QVariant>& args : rowCounts)
             values << args.at(0).toString();
         rowCounts.clear();
         values = QStringList{values.isEmpty() ? QStringLiteral("none") : values.join(',')};
-    } else if (key == QLatin1String("stored")) {
+    } else if (key == "stored") {
         const QByteArray records = designRecords(index);
         std::map<int, int> types;
         for (int at = 0; at + 212 <= records.size(); at += 212) {
@@ -189,17 +181,17 @@ QString state(VKD_P_DesignParameter* page, int index, const QString& key, QSigna
         }
         for (const auto& [group, type] : types)
             values << QStringLiteral("%1:%2").arg(group).arg(type);
-    } else if (key == QLatin1String("dialog")) {
+    } else if (key == "dialog") {
         auto* host = qobject_cast<QDialog*>(page->window());
         values << (host->isVisible()                     ? "open"
                    : host->result() == QDialog::Accepted ? "accepted"
                                                          : "rejected");
-    } else if (key == QLatin1String("edit")) {
+    } else if (key == "edit") {
         return editorState(table);
     } else {
         values << said;
     }
-    return key + QLatin1Char(' ') + values.join(QLatin1Char(' '));
+    return key + ' ' + values.join(' ');
 }
 
 QByteArray fileHash(const QString& path)
@@ -350,31 +342,6 @@ private slots:
             QVERIFY(text->toPlainText().startsWith(QLatin1String(heading)));
             text->window()->close();
         }
-    }
-
-    // Usage errors of the host program name what is wrong; its batch runs are tried elsewhere.
-    void hostUsage_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("said");
-        QTest::newRow("unknown language")
-            << QStringList{"--lang", "fr", "p.vkd"} << "--lang takes de or en, not \"fr\"";
-        QTest::newRow("two projects") << QStringList{"a.vkd", "b.vkd"} << "one project only: b.vkd";
-        QTest::newRow("unknown option") << QStringList{"--verbose"} << "unknown option --verbose";
-    }
-
-    void hostUsage()
-    {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, said);
-        QProcess host;
-        host.start(QStringLiteral(PLIB_HOST), arguments);
-        QVERIFY(host.waitForFinished(30000));
-        QCOMPARE(host.exitStatus() == QProcess::NormalExit ? host.exitCode() : -1, 2);
-        QCOMPARE(QString::fromLocal8Bit(host.readAllStandardError()).section('\n', 0, 1),
-                 QStringLiteral("plib-host: %1\nusage: plib-host [--lang de|en] [--script-language de|en] "
-                                "[--script FILE|-] [--screenshots DIR] [PROJECT]")
-                     .arg(said));
     }
 
     // OK of the host's dialog on a project opened for reading: one warning that names the file

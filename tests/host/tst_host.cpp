@@ -218,6 +218,14 @@ private slots:
         const QString tool = QStringLiteral(PROJECT_TOOL);
         QTest::newRow("host, keywords without a value")
             << host << QStringList{"@", "--script-language"} << 2 << "--script-language needs a value";
+        QTest::newRow("host, unknown language")
+            << host << QStringList{"--lang", "fr", "p.vkd"} << 2
+            << "plib-host: --lang takes de or en, not \"fr\"\nusage: plib-host [--lang de|en] "
+               "[--script-language de|en] [--script FILE|-] [--screenshots DIR] [PROJECT]";
+        QTest::newRow("host, two projects")
+            << host << QStringList{"a.vkd", "b.vkd"} << 2 << "one project only: b.vkd";
+        QTest::newRow("host, unknown option")
+            << host << QStringList{"--verbose"} << 2 << "unknown option --verbose";
         QTest::newRow("host, damaged project")
             << host << QStringList{"--script", "-", "@"} << 3 << "@ is not a project file.";
         QTest::newRow("host, batch run on a project not made yet")
