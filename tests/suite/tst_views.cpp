@@ -1,10 +1,8 @@
 // The suite's item views: the tree that keeps check states in line and the table view.
 #include <QtTableView.h>
-#include <VKD_QT_Menu.h>
 #include <VKD_QT_TreeWidget.h>
 
 #include <QLineEdit>
-#include <QMimeData>
 #include <QStandardItemModel>
 #include <QtTest>
 
@@ -35,7 +33,6 @@ struct Table
         view.resize(400, 200);
         view.show();
     }
-    QString text(int row, int column) const { return model.item(row, column)->text(); }
 };
 
 } // namespace
@@ -55,9 +52,6 @@ private slots:
                                 << QString::fromLatin1(states);
         };
         // clang-format off
-        row("nothing", "", "root0 a0 a10 a20 a30 b0 b10");
-        row("root carries down", "root=2", "root2 a2 a12 a22 a32 b2 b12");
-        row("partial leaf counts as partial", "b1=1", "root1 a0 a10 a20 a30 b1 b11");
         row("unchecked newcomer under a checked parent", "root=2, new c a 3 0", "root1 a1 a12 a22 a32 c0 b2 b12");
         row("removing the only unchecked child", "a1=2, a2=2, delete a3", "root1 a2 a12 a22 b0 b10");
         row("off leaves states alone", "off, a1=2, a2=2, a3=2", "root0 a0 a12 a22 a32 b0 b10");
@@ -74,7 +68,6 @@ private slots:
     void checkStates()
     {
         QFETCH(QStringList, steps);
-        QFETCH(QString, states);
         VKD_QT_TreeWidget tree;
         tree.setAutomaticCheckStateUpdate(true);
         QTreeWidgetItem* root = item(nullptr, QStringLiteral("root"));
@@ -109,11 +102,10 @@ private slots:
         QStringList seen;
         for (QTreeWidgetItemIterator it(&tree); *it; ++it)
             seen << (*it)->text(0) + QString::number(int((*it)->checkState(0)));
-        QCOMPARE(seen.join(QLatin1Char(' ')), states);
+        QTEST(seen.join(QLatin1Char(' ')), "states");
     }
 
-    // A subtree built outside the tree takes its state from its children when it comes in;
-    // carrying a state down changes each ancestor once.
+    // A subtree built outside the tree takes its state from its children when it comes in.
     void subtrees()
     {
         VKD_QT_TreeWidget tree;
@@ -128,22 +120,6 @@ private slots:
         caption->addChild(plot);
         QCOMPARE(plot->checkState(0), Qt::Checked);
         QCOMPARE(top->checkState(0), Qt::PartiallyChecked);
-        plot->setCheckState(0, Qt::Unchecked);
-        QHash<QTreeWidgetItem*, int> changes;
-        connect(&tree, &QTreeWidget::itemChanged, [&](QTreeWidgetItem* i, int) { ++changes[i]; });
-        plot->setCheckState(0, Qt::Checked);
-        QCOMPARE(plot->child(49)->checkState(0), Qt::Checked);
-        QCOMPARE(changes.value(caption), 1);
-        QCOMPARE(changes.value(top), 1);
-        QCOMPARE(changes.value(plot->child(17)), 1);
-
-        VKD_QT_Menu menu(nullptr, "menu");
-        tree.addExpandAll(&menu);
-        tree.addCollapseAll(&menu);
-        menu.actions().at(0)->trigger();
-        QVERIFY(plot->isExpanded());
-        menu.actions().at(1)->trigger();
-        QVERIFY(!top->isExpanded());
     }
 
     void editing_data()
@@ -215,10 +191,10 @@ private slots:
         t.view.set_read_only(true);
         QVERIFY(!t.view.indexWidget(edited) && t.view.isPersistentEditorOpen(kept));
         emit t.view.itemDelegate()->commitData(persistent);
-        QCOMPARE(t.text(0, 1) + ' ' + t.text(1, 1), QStringLiteral("r0c1 r1c1"));
+        QCOMPARE(t.model.item(0, 1)->text() + ' ' + t.model.item(1, 1)->text(), QStringLiteral("r0c1 r1c1"));
         t.view.set_read_only(false);
         emit t.view.itemDelegate()->commitData(persistent);
-        QCOMPARE(t.text(1, 1), QStringLiteral("typed"));
+        QCOMPARE(t.model.item(1, 1)->text(), QStringLiteral("typed"));
     }
 };
 
