@@ -15,6 +15,7 @@
 #include <QHeaderView>
 #include <QLayout>
 #include <QMenu>
+#include <QScrollBar>
 #include <QTextBrowser>
 
 #include <cstring>
@@ -304,6 +305,26 @@ private slots:
         const QByteArray stored = designRecords(files.index());
         window.reset();
         QCOMPARE(designRecords(files.index()), stored);
+    }
+
+    // However many rows the table has, a new one is current on its type cell and in sight, and
+    // the row the user selected stays selected.
+    void newRowComesIntoSight()
+    {
+        Project project(QStringLiteral("demo"));
+        const auto page = project.page();
+        page->resize(900, 300);
+        DesignParameterTable* table = tableOf(page.get());
+        table->selectRow(2);
+        for (int added = 1; added <= 8; ++added) {
+            button(page.get(), QStringLiteral("btnNew"))->click();
+            QCoreApplication::processEvents();
+            const QModelIndex last = table->model()->index(table->rowCount() - 1, 1);
+            QCOMPARE(table->currentIndex(), last);
+            QVERIFY(table->viewport()->rect().contains(table->visualRect(last)));
+            QCOMPARE(table->selectionModel()->selectedRows(), QModelIndexList{table->model()->index(2, 0)});
+        }
+        QVERIFY(table->verticalScrollBar()->value() > 0); // else every row fitted and nothing was tried
     }
 
     // The rows of the demo project; only the type changes with the type: going back shows the
