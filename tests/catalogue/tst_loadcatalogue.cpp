@@ -1,40 +1,14 @@
 #include "catalogue.h"
 #include "loadcatalogue.h"
+#include "modal.h"
 #include "testsupport.h"
 
-#include <QApplication>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
 
 using namespace vkd::plib::widgetgraphicaloutput;
 
 namespace {
-
-// Answers every modal message box by a click on its button, and remembers what it showed.
-class BoxAnswerer : public QObject
-{
-public:
-    BoxAnswerer()
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box || box->buttons().isEmpty())
-                return;
-            boxes << QStringList{box->windowTitle(), box->text(), QString::number(box->icon())};
-            parents << box->parentWidget();
-            QTest::mouseClick(box->buttons().first(), Qt::LeftButton);
-        });
-        m_timer.start(10);
-    }
-    QList<QStringList> boxes;
-    QList<QWidget*> parents;
-
-private:
-    QTimer m_timer;
-};
 
 const QByteArray twoPlots =
     "// two plots\n"
@@ -76,12 +50,12 @@ private slots:
         if (!vkd_lib_searchpath("graphicaloutput.data", 3).empty())
             QSKIP("an installed catalogue is on the search path");
         QWidget parent;
-        BoxAnswerer answerer;
+        BoxWatcher boxes;
         QVERIFY(!loadCatalogue(&parent, 1) && !loadCatalogue(&parent, 1));
-        const QStringList box{"File not found", "File graphicaloutput.data not found",
-                              QString::number(QMessageBox::Critical)};
-        QCOMPARE(answerer.boxes, (QList<QStringList>{box, box}));
-        QCOMPARE(answerer.parents, (QList<QWidget*>{&parent, &parent}));
+        const QString box = QStringLiteral("File not found: File graphicaloutput.data not found");
+        QCOMPARE(boxes.seen, (QStringList{box, box}));
+        QCOMPARE(boxes.icon, QMessageBox::Critical);
+        QCOMPARE(boxes.parents, (QList<QWidget*>{&parent, &parent}));
         QCOMPARE(catalogueList().size(), size_t(2));
         QCOMPARE(catalogueLanguage, 0);
     }
@@ -91,7 +65,7 @@ private slots:
     void readsOncePerLanguage()
     {
         QTemporaryDir dir;
-        BoxAnswerer answerer;
+        BoxWatcher boxes;
         offer(dir, "// nothing but comments\n//1|0|0|a|b|c|Node|0|last|1|1| |0|G|E\n");
         QVERIFY(loadCatalogue(nullptr, 1));
         QCOMPARE(catalogueLanguage, 1);
@@ -108,7 +82,7 @@ private slots:
             captions << r.title3;
         QCOMPARE(captions, (QStringList{"Basis global X", "Dach", "Base global X", "Caret"}));
         QCOMPARE(catalogueLanguage, 1);
-        QCOMPARE(answerer.boxes.size(), 0);
+        QCOMPARE(boxes.seen, QStringList());
     }
 };
 

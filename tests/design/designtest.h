@@ -1,9 +1,10 @@
 #pragma once
 // What the widget tests of the design page and its dialogs share: projects and pages on them,
 // the stored records, the table's cells, the buttons of a dialog, and modal windows answered as
-// a person would.
+// a person would (modal.h).
 
 #include "DesignParameterTable.h"
+#include "modal.h"
 
 #include <VKD_H_ProjectDialogPage.h>
 #include <VKD_H_ZOBDoc.h>
@@ -16,13 +17,10 @@
 
 #include <QApplication>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
 
-#include <functional>
 #include <memory>
 
 // A project in a temporary folder: "new"; "demo", the demo model with its design parameters;
@@ -102,49 +100,3 @@ inline QString buttonText(VKD_QT_TableWidgetButton* b)
     return b->mode() == VKD_QT_TableWidgetButton::EditText ? b->findChild<QLabel*>()->text()
                                                            : b->button()->text();
 }
-
-// Runs `act` on the first modal widget that `match` takes, as soon as it is up.
-inline void onModal(const std::function<bool(QWidget*)>& match, const std::function<void(QWidget*)>& act)
-{
-    auto* timer = new QTimer;
-    timer->setInterval(10);
-    QObject::connect(timer, &QTimer::timeout, [timer, match, act] {
-        QWidget* w = QApplication::activeModalWidget();
-        if (!w || !match(w))
-            return;
-        timer->stop();
-        timer->deleteLater();
-        act(w);
-    });
-    timer->start();
-}
-
-// Answers every message box while it lives with `answer`, or its first button, and keeps
-// "title: text" of each, its buttons and icon, and whether a busy cursor was still set.
-class BoxWatcher
-{
-public:
-    explicit BoxWatcher(QMessageBox::StandardButton answer = QMessageBox::NoButton)
-    {
-        m_timer.setInterval(10);
-        QObject::connect(&m_timer, &QTimer::timeout, [this, answer] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            seen << box->windowTitle() + QStringLiteral(": ") + box->text();
-            buttons = box->standardButtons();
-            icon = box->icon();
-            busyCursor = QApplication::overrideCursor() != nullptr;
-            QAbstractButton* button = box->button(answer);
-            (button ? button : box->buttons().value(0))->click();
-        });
-        m_timer.start();
-    }
-    QStringList seen;
-    QMessageBox::StandardButtons buttons;
-    QMessageBox::Icon icon = QMessageBox::NoIcon;
-    bool busyCursor = false;
-
-private:
-    QTimer m_timer;
-};

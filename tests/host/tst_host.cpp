@@ -5,6 +5,7 @@
 #include "ContentTagSwitch.h"
 #include "PlibHostDialog.h"
 #include "ScriptPreview.h"
+#include "modal.h"
 #include "reference.h"
 
 #include <VKD_H_ZOBDoc.h>
@@ -14,7 +15,6 @@
 #include <newproject.h>
 
 #include <QCryptographicHash>
-#include <QMessageBox>
 #include <QProcess>
 #include <QRadioButton>
 #include <QTableWidget>
@@ -146,15 +146,10 @@ private slots:
         VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
         PlibHostDialog host(&doc);
         changePages(host);
-        QString said;
+        BoxWatcher boxes;
         QTimer::singleShot(0, &host, &QDialog::accept);
-        QTimer::singleShot(50, [&] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                said = box->text();
-                box->accept();
-            }
-        });
         QCOMPARE(host.exec(), int(QDialog::Accepted));
+        const QString said = boxes.seen.join(QLatin1Char('|'));
         QVERIFY2(said.contains(QDir::toNativeSeparators(project.dir.filePath("demo.grav"))) &&
                      said.contains(QLatin1String("The project was saved.")),
                  qPrintable(said));
