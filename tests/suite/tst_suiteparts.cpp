@@ -234,9 +234,9 @@ private slots:
                 QtWarningMsg,
                 qPrintable(path +
                            QStringLiteral(": not a translation that can be loaded; the texts stay English")));
-        vkd_lib_setvalue(102, 0);
+        vkd_lib_setvalue(kSettingLanguage, 0);
         VKD_QT_InitTranslator translator("mod");
-        vkd_lib_setvalue(102, 1);
+        vkd_lib_setvalue(kSettingLanguage, 1);
         QCOMPARE(translator.isInstalled(), installed);
     }
 };
