@@ -277,46 +277,34 @@ private slots:
         QCOMPARE(changes(before, record), expected.join(QLatin1Char(' ')));
     }
 
-    void badValueInRecord_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<float>("value");
-        QTest::addColumn<QString>("problem");
-        QTest::newRow("NaN distance")
-            << 1 << "hio" << float(NAN)
-            << "The stored value \"nan\" is not a number. Enter a value or empty the field.";
-        QTest::newRow("reference point far out")
-            << 4 << "yref" << 2.0e5f << "The value must lie between -99999.000 m and 99999.000 m.";
-    }
-
     // The field is marked, and OK stays refused with the focus in it until it is emptied; then the
     // field is written as not set.
     void badValueInRecord()
     {
-        QFETCH(int, type);
-        QFETCH(QString, name);
-        QFETCH(float, value);
-        QFETCH(QString, problem);
-        R record = makeRecord(type, QLatin1String(kDirectionSetup));
-        ::field(record, name) = value;
-        dlgDistanceDirection dialog(&record, nullptr);
-        dialog.show();
-        QApplication::setActiveWindow(&dialog);
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
-        auto* edit = dialog.findChild<VKD_H_LineEdit*>(name);
-        QCOMPARE(edit->problemText(), problem);
-        QVERIFY(edit->toolTip().startsWith(problem));
-        // Until the user fixes it, the edit gives back what it was given, never a zero.
-        QCOMPARE(QByteArray::number(edit->getVal()), QByteArray::number(double(value)));
-        dialogButton(&dialog)->click();
-        QVERIFY(dialog.isVisible());
-        QVERIFY(edit->hasFocus());
-        edit->clear();
-        dialogButton(&dialog)->click();
-        QVERIFY(!dialog.isVisible());
-        dialog.writeToRecord(&record);
-        QCOMPARE(::field(record, name), kNotSet);
+        const std::tuple<int, const char*, float, const char*> cases[] = {
+            {1, "hio", float(NAN), "The stored value \"nan\" is not a number. Enter a value or empty the field."},
+            {4, "yref", 2.0e5f, "The value must lie between -99999.000 m and 99999.000 m."}};
+        for (const auto& [type, name, value, problem] : cases) {
+            R record = makeRecord(type, QLatin1String(kDirectionSetup));
+            ::field(record, QLatin1String(name)) = value;
+            dlgDistanceDirection dialog(&record, nullptr);
+            dialog.show();
+            QApplication::setActiveWindow(&dialog);
+            QVERIFY(QTest::qWaitForWindowActive(&dialog));
+            auto* edit = dialog.findChild<VKD_H_LineEdit*>(QLatin1String(name));
+            QCOMPARE(edit->problemText(), QLatin1String(problem));
+            QVERIFY(edit->toolTip().startsWith(QLatin1String(problem)));
+            // Until the user fixes it, the edit gives back what it was given, never a zero.
+            QCOMPARE(QByteArray::number(edit->getVal()), QByteArray::number(double(value)));
+            dialogButton(&dialog)->click();
+            QVERIFY(dialog.isVisible());
+            QVERIFY(edit->hasFocus());
+            edit->clear();
+            dialogButton(&dialog)->click();
+            QVERIFY(!dialog.isVisible());
+            dialog.writeToRecord(&record);
+            QCOMPARE(::field(record, QLatin1String(name)), kNotSet);
+        }
     }
 
     // Stored values show as they are; the lists stay as they are, also after Return.

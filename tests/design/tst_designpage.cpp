@@ -396,44 +396,36 @@ private slots:
     // OK of the host's dialog on a project opened for reading: one warning that names the file
     // and the reason, in the desktop's language; the dialog stays open with what was typed, the
     // project as it was.
-    void hostOkThatCannotSave_data()
-    {
-        QTest::addColumn<int>("language");
-        QTest::addColumn<QString>("closing");
-        QTest::newRow("English desktop")
-            << 1 << "Nothing was saved. The dialog stays open so that nothing you entered is lost.";
-        QTest::newRow("German desktop") << 0
-                                        << "Es wurde nichts gespeichert. Der Dialog bleibt offen, damit "
-                                           "nichts von Ihren Eingaben verloren geht.";
-    }
-
     void hostOkThatCannotSave()
     {
-        QFETCH(int, language);
-        QFETCH(QString, closing);
-        Project files(QStringLiteral("demo"));
-        const QString file = files.doc->path();
-        const QByteArray before = designRecords(files.index()), hash = (files.doc.reset(), fileHash(file));
-        VKD_H_ZOBDoc project(file, VKD_H_ZOBDoc::ReadOnly);
-        vkd_lib_setvalue(kSettingLanguage, language);
-        VKD_QT_InitTranslator hostTexts("plib_host");
-        PlibHostDialog dialog(&project);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        const int rows = tableOf(dialog.designPage())->rowCount();
-        BoxWatcher boxes;
-        QTest::mouseClick(dialog.buttonRow()->cmdOk(), Qt::LeftButton);
-        vkd_lib_setvalue(kSettingLanguage, 1);
-        QCOMPARE(boxes.seen, QStringList{dialog.windowTitle() +
-                                         QStringLiteral(": The project file %1 is open for reading only: it "
-                                                        "was opened for reading only.\n\n%2")
-                                             .arg(QFileInfo(file).absoluteFilePath(), closing)});
-        QCOMPARE(boxes.icon, QMessageBox::Warning);
-        QVERIFY(!boxes.busyCursor);
-        QVERIFY(dialog.isVisible());
-        QCOMPARE(tableOf(dialog.designPage())->rowCount(), rows);
-        QCOMPARE(designRecords(project.index()), before);
-        QCOMPARE(fileHash(file), hash);
+        for (const auto& [language, closing] :
+             {std::pair{1, "Nothing was saved. The dialog stays open so that nothing you entered is lost."},
+              {0, "Es wurde nichts gespeichert. Der Dialog bleibt offen, damit nichts von Ihren Eingaben "
+                  "verloren geht."}}) {
+            Project files(QStringLiteral("demo"));
+            const QString file = files.doc->path();
+            const QByteArray before = designRecords(files.index()), hash = (files.doc.reset(), fileHash(file));
+            VKD_H_ZOBDoc project(file, VKD_H_ZOBDoc::ReadOnly);
+            vkd_lib_setvalue(kSettingLanguage, language);
+            VKD_QT_InitTranslator hostTexts("plib_host");
+            PlibHostDialog dialog(&project);
+            dialog.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+            const int rows = tableOf(dialog.designPage())->rowCount();
+            BoxWatcher boxes;
+            QTest::mouseClick(dialog.buttonRow()->cmdOk(), Qt::LeftButton);
+            vkd_lib_setvalue(kSettingLanguage, 1);
+            QCOMPARE(boxes.seen, QStringList{dialog.windowTitle() +
+                                             QStringLiteral(": The project file %1 is open for reading only: it "
+                                                            "was opened for reading only.\n\n%2")
+                                                 .arg(QFileInfo(file).absoluteFilePath(), QString::fromUtf8(closing))});
+            QCOMPARE(boxes.icon, QMessageBox::Warning);
+            QVERIFY(!boxes.busyCursor);
+            QVERIFY(dialog.isVisible());
+            QCOMPARE(tableOf(dialog.designPage())->rowCount(), rows);
+            QCOMPARE(designRecords(project.index()), before);
+            QCOMPARE(fileHash(file), hash);
+        }
     }
 
     void makerTellsRowsApart_data()

@@ -158,47 +158,40 @@ private slots:
         QVERIFY(radio(again.outputPage(), "FormatGroup", 1)->isChecked());
     }
 
-    void contentSwitch_data()
-    {
-        QTest::addColumn<bool>("split");
-        QTest::addColumn<int>("choice");
-        QTest::addColumn<QStringList>("offered");
-        QTest::addColumn<QStringList>("notOffered");
-        QTest::newRow("prestressing, graphical output")
-            << false << int(ContentTagSwitch::Prestressing)
-            << QStringList{"Prestressing", "Tendons in quad elements", "Tendons in beams",
-                           "Prestressing force"}
-            << QStringList{"Brick elements", "Section cuts"};
-        // The split page offers the structure of bricks, not their results.
-        QTest::newRow("bricks, page splitting") << true << int(ContentTagSwitch::Bricks)
-                                                << QStringList{"Brick elements"} << QStringList{"Bricks"};
-    }
-
     // A click offers the plots of that content at once, a click on "What the model holds" takes
-    // them away again; the other page keeps to its model.
+    // them away again; the other page keeps to its model. The split page offers the structure of
+    // bricks, not their results.
     void contentSwitch()
     {
-        QFETCH(bool, split);
-        QFETCH(int, choice);
-        QFETCH(QStringList, offered);
-        QFETCH(QStringList, notOffered);
         Project project;
         VKD_H_ZOBDoc doc(project.path, VKD_H_ZOBDoc::OpenExisting);
         PlibHostDialog host(&doc);
-        VKD_P_WidgetGraphicalOutput* page = split ? host.splitPage() : host.outputPage();
-        ContentTagSwitch* content = split ? host.splitContent() : host.outputContent();
-        QCOMPARE(content->group()->objectName(), QLatin1String(split ? "splitContent" : "outputContent"));
-        const QStringList before = captions(page);
-        for (const QString& caption : offered + notOffered)
-            QVERIFY2(!before.contains(caption), qPrintable(caption));
-        content->group()->getRadioButton(choice)->click();
-        QCOMPARE(content->choice(), choice);
-        const QStringList switched = captions(page);
-        for (const QString& caption : offered + notOffered)
-            QVERIFY2(switched.contains(caption) == offered.contains(caption), qPrintable(caption));
-        QVERIFY(!captions(split ? host.outputPage() : host.splitPage()).contains(offered.first()));
-        content->group()->getRadioButton(ContentTagSwitch::ModelOnly)->click();
-        QCOMPARE(captions(page), before);
+        const struct
+        {
+            bool split;
+            int choice;
+            QStringList offered, notOffered;
+        } cases[] = {{false,
+                      ContentTagSwitch::Prestressing,
+                      {"Prestressing", "Tendons in quad elements", "Tendons in beams", "Prestressing force"},
+                      {"Brick elements", "Section cuts"}},
+                     {true, ContentTagSwitch::Bricks, {"Brick elements"}, {"Bricks"}}};
+        for (const auto& [split, choice, offered, notOffered] : cases) {
+            VKD_P_WidgetGraphicalOutput* page = split ? host.splitPage() : host.outputPage();
+            ContentTagSwitch* content = split ? host.splitContent() : host.outputContent();
+            QCOMPARE(content->group()->objectName(), QLatin1String(split ? "splitContent" : "outputContent"));
+            const QStringList before = captions(page);
+            for (const QString& caption : offered + notOffered)
+                QVERIFY2(!before.contains(caption), qPrintable(caption));
+            content->group()->getRadioButton(choice)->click();
+            QCOMPARE(content->choice(), choice);
+            const QStringList switched = captions(page);
+            for (const QString& caption : offered + notOffered)
+                QVERIFY2(switched.contains(caption) == offered.contains(caption), qPrintable(caption));
+            QVERIFY(!captions(split ? host.outputPage() : host.splitPage()).contains(offered.first()));
+            content->group()->getRadioButton(ContentTagSwitch::ModelOnly)->click();
+            QCOMPARE(captions(page), before);
+        }
     }
 
     void badInput_data()

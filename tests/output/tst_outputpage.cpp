@@ -17,7 +17,6 @@
 #include <VKD_QT_RadioButtonGroup.h>
 #include <VKD_QT_TabDialog.h>
 #include <vkd_dbo.h>
-#include <vkd_qt_xmlpart.h>
 
 #include <QLabel>
 #include <QLayout>
@@ -167,41 +166,32 @@ class TestOutputPage : public QObject
 {
     Q_OBJECT
 private slots:
-    void widgets_data()
-    {
-        QTest::addColumn<int>("progname");
-        QTest::addColumn<int>("language");
-        QTest::addColumn<QString>("reference");
-        QTest::newRow("standard, English") << 1 << 1 << "page-standard-en.txt";
-        QTest::newRow("standard, German") << 1 << 0 << "page-standard-de.txt";
-        QTest::newRow("split, English") << 122 << 1 << "page-split-en.txt";
-        QTest::newRow("split, German") << 122 << 0 << "page-split-de.txt";
-    }
-
+    // The widgets of the standard and the split page on an English and a German desktop.
     void widgets()
     {
-        QFETCH(int, progname);
-        QFETCH(int, language);
-        QFETCH(QString, reference);
-        LanguageScope scope(language);
-        QTranslator translator;
-        QVERIFY(translator.load(QStringLiteral(TRANSLATIONS)));
-        if (language == 0)
-            QCoreApplication::installTranslator(&translator);
-        Page p(progname);
-        QCoreApplication::removeTranslator(&translator);
-        QVERIFY(matchesReference(describe(p), reference));
-        QVERIFY(p.page->checkVals());
-        // As laid out: the settings and the view column reach the box's right edge, and the default
-        // button stands under the box at that edge.
-        p.holder.resize(900, 700);
-        p.holder.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&p.holder));
-        const QRect box = p.get<QGroupBox>("Standard box")->geometry();
-        const QRect button = p.get<QPushButton>("Button: Default settings")->geometry();
-        QVERIFY(button.right() == box.right() && button.top() > box.bottom());
-        QCOMPARE(p.page->findChild<QLayout*>(QStringLiteral("view column"))->geometry().right(),
-                 p.get<QWidget>("GroupBox attribs")->geometry().right());
+        for (const auto& [progname, language, reference] :
+             {std::tuple{1, 1, "page-standard-en.txt"}, {1, 0, "page-standard-de.txt"},
+              {122, 1, "page-split-en.txt"}, {122, 0, "page-split-de.txt"}}) {
+            LanguageScope scope(language);
+            QTranslator translator;
+            QVERIFY(translator.load(QStringLiteral(TRANSLATIONS)));
+            if (language == 0)
+                QCoreApplication::installTranslator(&translator);
+            Page p(progname);
+            QCoreApplication::removeTranslator(&translator);
+            QVERIFY(matchesReference(describe(p), QLatin1String(reference)));
+            QVERIFY(p.page->checkVals());
+            // As laid out: the settings and the view column reach the box's right edge, and the default
+            // button stands under the box at that edge.
+            p.holder.resize(900, 700);
+            p.holder.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&p.holder));
+            const QRect box = p.get<QGroupBox>("Standard box")->geometry();
+            const QRect button = p.get<QPushButton>("Button: Default settings")->geometry();
+            QVERIFY(button.right() == box.right() && button.top() > box.bottom());
+            QCOMPARE(p.page->findChild<QLayout*>(QStringLiteral("view column"))->geometry().right(),
+                     p.get<QWidget>("GroupBox attribs")->geometry().right());
+        }
     }
 
     // Iso areas with brics but no quads. The defaults come back everywhere but in the scale list, and
@@ -348,29 +338,6 @@ private slots:
                  QStringLiteral("VIEW TYPE \nLC 2 DESI 2\nPICT a\nPICT b\nEND\n"));
         widget.removeRow(1);
         QCOMPARE(p.rows(), QString());
-    }
-
-    // Whatever a value holds comes back unchanged, the first of two parts with the same tag, and
-    // the second from a position inside the first; a missing or broken part, or none behind the
-    // position, gives a null string, an empty value an empty one; an unknown entity stays.
-    void xmlParts()
-    {
-        const QString tag = QStringLiteral("a <b>");
-        std::vector<std::pair<QString, QString>> cases;
-        for (const char* value : {"", "<a <b>>7</a <b>>", "& &amp; &#60;"}) // its own tags, entities
-            cases.emplace_back(vkd_qt_writeXMLpart(value, tag) + vkd_qt_writeXMLpart("2", tag), value);
-        cases.emplace_back("<a <b>>1</a <b>><A &lt;b&gt;>1</A &lt;b&gt;>", QString()); // tag missing
-        cases.emplace_back("<a &lt;b&gt;>12</a &lt;b&gt", QString());                  // not closed
-        cases.emplace_back("<a &lt;b&gt;>&nbsp;&amp</a &lt;b&gt;><a &lt;b&gt;>2</a &lt;b&gt;>", "&nbsp;&amp");
-        for (const auto& [xml, value] : cases) {
-            int next = 0;
-            const QString read = vkd_qt_readXMLpart(xml, 0, tag, &next);
-            QCOMPARE(read.isNull(), value.isNull());
-            QCOMPARE(read, value);
-            QCOMPARE(next, value.isNull() ? -1 : int(xml.indexOf("<a &lt;b&gt;>2")));
-            if (!value.isNull())
-                QCOMPARE(vkd_qt_readXMLpart(xml, xml.indexOf("</a &lt;b&gt;>") + 1, tag, &next), "2");
-        }
     }
 
     // The string of a page, tree choice included; a new page that reads it writes it again.

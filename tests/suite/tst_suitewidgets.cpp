@@ -202,21 +202,6 @@ private slots:
         QCOMPARE(f.edit.getVal(), 0.035);
     }
 
-    void integerFieldWithoutNotSet()
-    {
-        StructLineEdit count{
-            VKD_H_LE_KIND_INTEGER, -1, 3.0, 10.0, 1.0, -99998.0, 0, QString(), QString(), QString(), {}};
-        VKD_H_LineEdit edit(nullptr, &count, "count", QStringLiteral("Layers"), QStringLiteral("How many"),
-                            false);
-        QCOMPARE(edit.text(), QStringLiteral("3"));
-        QCOMPARE(edit.whatsThis(), QStringLiteral("How many"));
-        QVERIFY(!edit.findChild<QLabel*>(QStringLiteral("unit")));
-        edit.setText(QStringLiteral("2,5"));
-        QCOMPARE(edit.problemText(), QStringLiteral("\"2,5\" is not a whole number."));
-        edit.setVal(-99999.0);
-        QCOMPARE(edit.problemText(), QStringLiteral("A value is required."));
-    }
-
     void combo_data()
     {
         QTest::addColumn<float>("value");
@@ -481,23 +466,6 @@ private slots:
         for (QTreeWidgetItemIterator it(&tree); *it; ++it)
             seen << (*it)->text(0) + QString::number(int((*it)->checkState(0)));
         QTEST(seen.join(QLatin1Char(' ')), "states");
-    }
-
-    // A subtree built outside the tree takes its state from its children when it comes in.
-    void subtrees()
-    {
-        VKD_QT_TreeWidget tree;
-        tree.setAutomaticCheckStateUpdate(true);
-        QTreeWidgetItem* top = item(nullptr, QStringLiteral("top"));
-        tree.addTopLevelItem(top);
-        QTreeWidgetItem* caption = item(top, QStringLiteral("caption"));
-        item(caption, QStringLiteral("other"));
-        QTreeWidgetItem* plot = item(nullptr, QStringLiteral("plot"));
-        for (int i = 0; i < 50; ++i)
-            item(plot, QString::number(i), Qt::Checked);
-        caption->addChild(plot);
-        QCOMPARE(plot->checkState(0), Qt::Checked);
-        QCOMPARE(top->checkState(0), Qt::PartiallyChecked);
     }
 
     void editing_data()
