@@ -155,11 +155,10 @@ private slots:
     void togetherAsAlone()
     {
         QFETCH(QByteArrayList, lines);
-        QFETCH(QStringList, ids);
         QStringList idsRead;
         for (const GraphicalOutputRecord& r : parseText(lines.join()))
             idsRead << r.id1 + r.id2 + r.id3;
-        QCOMPARE(idsRead, ids);
+        QTEST(idsRead, "ids");
         QStringList alone;
         for (const QByteArray& line : lines)
             alone += describedAll(parseText(line));

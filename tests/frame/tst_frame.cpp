@@ -108,9 +108,8 @@ private slots:
     {
         QFETCH(QStringList, arguments);
         QFETCH(QStringList, environment);
-        QFETCH(QString, printed);
         QByteArray log;
-        QCOMPARE(runSelfCheck(arguments, environment, &log), printed);
+        QTEST(runSelfCheck(arguments, environment, &log), "printed");
         QVERIFY2(log.contains("PASS   : VKD_P_Mix_UnitTest::check_qrc_system()"), log.constData());
         QVERIFY(log.contains("0 failed"));
     }
