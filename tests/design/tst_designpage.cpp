@@ -1,7 +1,7 @@
 // The design parameter page driven as a host and a user drive it, offscreen, on temporary
-// projects; and the host program around it. Widgets are found by their object names. Also what
-// the table keeps while it fills many rows: the row texts of one maker and the cell sizes of the
-// summary columns' delegate, each of which must give what a fresh computation gives.
+// projects; and the host program around it. Widgets are found by their object names. Also the row
+// texts that one maker keeps while the table fills many rows: they must be what a fresh
+// computation gives.
 #include "PlibHostDialog.h"
 #include "designrecord.h"
 #include "designtest.h"
@@ -20,7 +20,6 @@
 #include <QLayout>
 #include <QMenu>
 #include <QScrollBar>
-#include <QTableWidget>
 #include <QTextBrowser>
 
 #include <cstring>
@@ -460,31 +459,6 @@ private slots:
             anyDiffers = anyDiffers || rowText(first, column) != rowText(second, column);
         }
         QVERIFY(anyDiffers);
-    }
-
-    // The delegate's size of a cell after it gave one for another cell equals the plain
-    // delegate's: for the same text in a larger font, a longer text, a second line.
-    void keptSizes()
-    {
-        QTableWidget table(4, 1);
-        TextSizeDelegate delegate(nullptr);
-        QStyledItemDelegate plain;
-        QStyleOptionViewItem option;
-        option.initFrom(&table);
-        option.widget = &table;
-        option.features = QStyleOptionViewItem::WrapText;
-        int r = 0;
-        for (const auto& [text, points] : {std::pair{"12 ; 13\n14 ; 15 ;", 9},
-                                           {"12 ; 13\n14 ; 15 ;", 20},
-                                           {"1;2;3;4;5;6;7;8", 20},
-                                           {"1;2;3;4;5;6;7;8\n1", 20}}) {
-            table.setItem(r, 0, new QTableWidgetItem(QString::fromLatin1(text)));
-            QFont font = table.font();
-            font.setPointSize(points);
-            table.item(r, 0)->setFont(font);
-            const QModelIndex index = table.model()->index(r++, 0);
-            QCOMPARE(delegate.sizeHint(option, index), plain.sizeHint(option, index));
-        }
     }
 };
 
