@@ -20,7 +20,6 @@
 #include <QLayout>
 #include <QMenu>
 #include <QScrollBar>
-#include <QTextBrowser>
 
 #include <cstring>
 #include <map>
@@ -369,27 +368,6 @@ private slots:
         QVERIFY(!table->item(3, 2)->text().contains(QStringLiteral("1.5 cm")));
         QVERIFY(chooseType(table, 3, QStringLiteral("Three Layers")));
         QCOMPARE(table->item(3, 2)->text(), threeLayers);
-    }
-
-    // The help book opens on the page of the desktop's language.
-    void help()
-    {
-        Project project;
-        const auto page = project.page();
-        for (const auto& [language, file, heading] :
-             {std::tuple{1, "merdan_para_en.html", "Design parameters"},
-              {0, "merdan_para_de.html", "Bemessungsparameter"}}) {
-            vkd_lib_setvalue(kSettingLanguage, language);
-            page->showHelp();
-            QTextBrowser* text = nullptr;
-            for (QWidget* w : QApplication::topLevelWidgets())
-                if (w->objectName() == QLatin1String("helpViewer") && w->isVisible())
-                    text = w->findChild<QTextBrowser*>(QStringLiteral("helpText"));
-            QVERIFY2(text, "no help viewer opened");
-            QCOMPARE(text->source().fileName(), QLatin1String(file));
-            QVERIFY(text->toPlainText().startsWith(QLatin1String(heading)));
-            text->window()->close();
-        }
     }
 
     // OK of the host's dialog on a project opened for reading: one warning that names the file

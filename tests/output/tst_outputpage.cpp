@@ -207,6 +207,9 @@ private slots:
         p.get<QPushButton>("Button: Default settings")->click();
         QCOMPARE(p.state() + ' ' + p.rows(), QStringLiteral("1 1:100 2 0 0 1 3 - 1=r1+;2=r2"));
         QCOMPARE(p.page->getTORVAL_SCHR(true), QStringLiteral("SCHH H6 0.2"));
+        // No plot chosen: no script, whatever is added.
+        p.tree()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+        QCOMPARE(p.page->getTORVAL(QStringLiteral("+ADD\n"), true), QString());
     }
 
     // The split page passes over the widgets it lacks, keeps its sheet division through the
@@ -262,19 +265,6 @@ private slots:
                      p.page->getTORVAL_SCHR(true), p.page->getTORVAL_BEOB(true),
                      script.section(QStringLiteral("#define SCHR="), 1).section('\n', 0, 0));
         }));
-    }
-
-    // No plot chosen: no script, whatever is added; the vector form still appends one element.
-    void emptySelection()
-    {
-        Page p;
-        std::vector<QString> scripts{QStringLiteral("kept")};
-        QCOMPARE(p.page->getTORVAL(scripts, true), 1);
-        QVERIFY(scripts.size() == 2 && scripts[1].endsWith(QStringLiteral("PICT b\nEND\n")));
-        p.tree()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
-        QCOMPARE(p.page->getTORVAL(QStringLiteral("+ADD\n"), true), QString());
-        QCOMPARE(p.page->getTORVAL(scripts, false), 1);
-        QVERIFY(scripts.size() == 3 && scripts[2].isEmpty());
     }
 
     // The rows that a host's table gives the tree: labels, keys, order, what is skipped

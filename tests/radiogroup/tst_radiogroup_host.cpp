@@ -34,36 +34,30 @@ private slots:
 
     // The row has no parent of its own: whoever takes it keeps it, and a row nobody took goes with
     // the group. A host that goes first takes the row along, and the group must not touch it then.
-    void rowOwnership_data()
-    {
-        QTest::addColumn<QString>("host");
-        QTest::addColumn<bool>("rowStays");
-        QTest::newRow("never taken: goes with the group") << "none" << false;
-        QTest::newRow("in the host's layout: stays") << "layout" << true;
-        QTest::newRow("set on a panel: stays") << "panel" << true;
-        QTest::newRow("host gone before the group") << "gone" << false;
-    }
     void rowOwnership()
     {
-        QFETCH(QString, host);
-        QFETCH(bool, rowStays);
-        auto dialog = std::make_unique<QWidget>();
-        auto* outer = new QVBoxLayout(dialog.get());
-        auto group = std::make_unique<VKD_P_RadioGroup>();
-        group->initEchoOutput(dialog.get());
-        const QPointer<QLayout> row = group->layout();
-        if (host == QLatin1String("layout") || host == QLatin1String("gone"))
-            outer->addLayout(row);
-        else if (host == QLatin1String("panel"))
-            (new QWidget(dialog.get()))->setLayout(row);
-        if (host == QLatin1String("gone"))
-            dialog.reset();
-        group.reset();
-        QCOMPARE(!row.isNull(), rowStays);
-        if (rowStays)
-            QCOMPARE(row->count(), 4); // three buttons and the spacer
-        if (dialog)
-            QCOMPARE(dialog->findChildren<QRadioButton*>().size(), 3);
+        // Nobody, the host's layout, a panel of the host, or a host that goes before the group.
+        for (const auto& [host, rowStays] :
+             {std::pair{"none", false}, {"layout", true}, {"panel", true}, {"gone", false}}) {
+            auto dialog = std::make_unique<QWidget>();
+            auto* outer = new QVBoxLayout(dialog.get());
+            auto group = std::make_unique<VKD_P_RadioGroup>();
+            group->initEchoOutput(dialog.get());
+            const QPointer<QLayout> row = group->layout();
+            const bool gone = QByteArray(host) == "gone";
+            if (QByteArray(host) == "layout" || gone)
+                outer->addLayout(row);
+            else if (QByteArray(host) == "panel")
+                (new QWidget(dialog.get()))->setLayout(row);
+            if (gone)
+                dialog.reset();
+            group.reset();
+            QVERIFY2(!row.isNull() == rowStays, host);
+            if (rowStays)
+                QCOMPARE(row->count(), 4); // three buttons and the spacer
+            if (dialog)
+                QCOMPARE(dialog->findChildren<QRadioButton*>().size(), 3);
+        }
     }
 };
 
