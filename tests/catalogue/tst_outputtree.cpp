@@ -8,7 +8,6 @@
 
 #include <VKD_H_PluginParameter.h>
 
-#include <QApplication>
 #include <QTemporaryDir>
 #include <QtTest>
 

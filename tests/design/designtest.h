@@ -15,7 +15,6 @@
 #include <design.h>
 #include <vkd_q.h>
 
-#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>

@@ -11,7 +11,6 @@
 #include <rowtext.h>
 #include <vkd_q.h>
 
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>

@@ -9,7 +9,6 @@
 #include "reference.h"
 
 #include <VKD_H_ZOBDoc.h>
-#include <VKD_P_DesignParameter.h>
 #include <VKD_P_WidgetGraphicalOutput.h>
 #include <VKD_QT_RadioButtonGroup.h>
 #include <newproject.h>
