@@ -186,12 +186,20 @@ def run(command, cwd, timeout, log):
             raise
 
 
-def failed_tests(log, offset):
-    """The tests that CTest reported failing in the log from offset on."""
+def log_since(log, offset):
     with open(log, "rb") as f:
         f.seek(offset)
-        text = f.read().decode("utf-8", "replace")
+        return f.read().decode("utf-8", "replace")
+
+
+def failed_tests(text):
+    """The tests that CTest reported failing."""
     return " ".join(re.findall(r"^\s*\d+ - (\S+) \(", text, re.M))
+
+
+def failed_functions(text):
+    """The QtTest functions that failed, as Class::function, from CTest's output on failure."""
+    return sorted(set(re.findall(r"FAIL!  : (\S+?::\w+)\(", text)))
 
 
 def restore_leftover(backup_dir):
@@ -211,6 +219,14 @@ def summary(results):
     score = 100.0 * counts["killed"] / compiling if compiling else 0.0
     lines = [f"mutants: {len(results)}  killed: {counts['killed']}  survived: {counts['survived']}  "
              f"not compiling: {counts['not compiling']}  score: {score:.1f}% of compiling"]
+    alone = {}
+    for r in results:
+        if len(r.get("functions", [])) == 1:
+            alone.setdefault(r["functions"][0], []).append(f"{r['file']}:{r['line']}")
+    if alone:
+        lines.append("test functions that alone catch a mutant:")
+        for function, caught in sorted(alone.items()):
+            lines.append(f"  {function}: {' '.join(caught)}")
     survivors = [r for r in results if r["result"] == "survived"]
     if survivors:
         lines.append("survivors:")
@@ -229,13 +245,17 @@ def main():
     parser.add_argument("--test-timeout", type=int, default=60, help="seconds for one test")
     parser.add_argument("--only", nargs="+", metavar="FILE:LINE",
                         help="of the mutants drawn, run these alone (to check a new test on a survivor)")
+    parser.add_argument("--every-test", action="store_true",
+                        help="run every test on each mutant and note the test functions that fail, "
+                             "so that the report tells which tests alone catch a mutant")
     parser.add_argument("--list", action="store_true", help="only print the mutants the seed draws")
     parser.add_argument("--report", action="store_true", help="only summarize the results file")
     args = parser.parse_args()
 
     build = (ROOT / args.build_dir).resolve()
     work = build / "mutants"
-    results_file = work / (f"seed-{args.seed}.jsonl" if not args.only else f"seed-{args.seed}-only.jsonl")
+    results_file = work / (f"seed-{args.seed}{'-only' if args.only else ''}"
+                           f"{'-every-test' if args.every_test else ''}.jsonl")
     if args.report:
         if not results_file.exists():
             print(f"no results in {results_file}")
@@ -259,8 +279,8 @@ def main():
     restore_leftover(backup_dir)
     log = work / f"seed-{args.seed}.log"
     build_cmd = ["cmake", "--build", str(build), f"-j{args.jobs}"]
-    test_cmd = ["ctest", "--test-dir", str(build), f"-j{args.jobs}", "--stop-on-failure",
-                "--timeout", str(args.test_timeout)]
+    test_cmd = ["ctest", "--test-dir", str(build), f"-j{args.jobs}", "--timeout", str(args.test_timeout)]
+    test_cmd.append("--output-on-failure" if args.every_test else "--stop-on-failure")
     test_env_timeout = args.test_timeout * 20
 
     signal.signal(signal.SIGTERM, on_signal)
@@ -282,7 +302,7 @@ def main():
             lines = original.decode("utf-8").split("\n")
             lines[m["line"] - 1] = m["text"]
             t0 = time.time()
-            killer = ""
+            killer, functions = "", []
             try:
                 target.write_bytes("\n".join(lines).encode("utf-8"))
                 if run(build_cmd, ROOT, None, log) != 0:
@@ -291,7 +311,8 @@ def main():
                     mark = log.stat().st_size
                     code = run(test_cmd, ROOT, test_env_timeout, log)
                     outcome = "survived" if code == 0 else "killed"
-                    killer = failed_tests(log, mark)
+                    text = log_since(log, mark)
+                    killer, functions = failed_tests(text), failed_functions(text)
             finally:
                 # a second Ctrl-C must not cut the restore short
                 signal.pthread_sigmask(signal.SIG_BLOCK, {signal.SIGINT, signal.SIGTERM})
@@ -302,6 +323,8 @@ def main():
             entry["result"] = outcome
             if killer:
                 entry["killed by"] = killer
+            if args.every_test and functions:
+                entry["functions"] = functions
             entry["seconds"] = round(time.time() - t0)
             results.append(entry)
             with open(results_file, "a", encoding="utf-8") as out:
