@@ -139,7 +139,7 @@ QString runStep(VKD_P_DesignParameter* page, const QString& word, const QString&
         table->selectionModel()->clearCurrentIndex();
     } else if (word == "menu") {
         return menuStep(table, rest);
-    } else {
+    } else if (word == "ok" || word == "check") {
         BoxWatcher boxes(rest == "Yes" ? QMessageBox::Yes : QMessageBox::No);
         QString result = QStringLiteral("nothing");
         if (word == "ok")
@@ -152,6 +152,8 @@ QString runStep(VKD_P_DesignParameter* page, const QString& word, const QString&
         const QString asked = oneLine(boxes.seen.join('|')) +
                               (boxes.buttons == (QMessageBox::Yes | QMessageBox::No) ? " (Yes, No)" : " (?)");
         return word == "ok" ? asked : result + ", asked " + asked;
+    } else {
+        qFatal("no step \"%s\" in data/steps.txt", qPrintable(word));
     }
     return QString();
 }
