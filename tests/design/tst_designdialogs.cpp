@@ -282,7 +282,8 @@ private slots:
     void badValueInRecord()
     {
         const std::tuple<int, const char*, float, const char*> cases[] = {
-            {1, "hio", float(NAN), "The stored value \"nan\" is not a number. Enter a value or empty the field."},
+            {1, "hio", float(NAN),
+             "The stored value \"nan\" is not a number. Enter a value or empty the field."},
             {4, "yref", 2.0e5f, "The value must lie between -99999.000 m and 99999.000 m."}};
         for (const auto& [type, name, value, problem] : cases) {
             R record = makeRecord(type, QLatin1String(kDirectionSetup));

@@ -383,7 +383,8 @@ private slots:
                   "verloren geht."}}) {
             Project files(QStringLiteral("demo"));
             const QString file = files.doc->path();
-            const QByteArray before = designRecords(files.index()), hash = (files.doc.reset(), fileHash(file));
+            const QByteArray before = designRecords(files.index()),
+                             hash = (files.doc.reset(), fileHash(file));
             VKD_H_ZOBDoc project(file, VKD_H_ZOBDoc::ReadOnly);
             vkd_lib_setvalue(kSettingLanguage, language);
             VKD_QT_InitTranslator hostTexts("plib_host");
@@ -394,10 +395,11 @@ private slots:
             BoxWatcher boxes;
             QTest::mouseClick(dialog.buttonRow()->cmdOk(), Qt::LeftButton);
             vkd_lib_setvalue(kSettingLanguage, 1);
-            QCOMPARE(boxes.seen, QStringList{dialog.windowTitle() +
-                                             QStringLiteral(": The project file %1 is open for reading only: it "
-                                                            "was opened for reading only.\n\n%2")
-                                                 .arg(QFileInfo(file).absoluteFilePath(), QString::fromUtf8(closing))});
+            QCOMPARE(boxes.seen,
+                     QStringList{dialog.windowTitle() +
+                                 QStringLiteral(": The project file %1 is open for reading only: it "
+                                                "was opened for reading only.\n\n%2")
+                                     .arg(QFileInfo(file).absoluteFilePath(), QString::fromUtf8(closing))});
             QCOMPARE(boxes.icon, QMessageBox::Warning);
             QVERIFY(!boxes.busyCursor);
             QVERIFY(dialog.isVisible());

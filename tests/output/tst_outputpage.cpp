@@ -169,9 +169,10 @@ private slots:
     // The widgets of the standard and the split page on an English and a German desktop.
     void widgets()
     {
-        for (const auto& [progname, language, reference] :
-             {std::tuple{1, 1, "page-standard-en.txt"}, {1, 0, "page-standard-de.txt"},
-              {122, 1, "page-split-en.txt"}, {122, 0, "page-split-de.txt"}}) {
+        for (const auto& [progname, language, reference] : {std::tuple{1, 1, "page-standard-en.txt"},
+                                                            {1, 0, "page-standard-de.txt"},
+                                                            {122, 1, "page-split-en.txt"},
+                                                            {122, 0, "page-split-de.txt"}}) {
             LanguageScope scope(language);
             QTranslator translator;
             QVERIFY(translator.load(QStringLiteral(TRANSLATIONS)));

@@ -15,7 +15,7 @@
 namespace {
 
 // The buttons of the row with their labels and tooltips, and what else the row holds.
-inline QString rowText(QLayout* layout, const QWidget& parent)
+QString rowText(QLayout* layout, const QWidget& parent)
 {
     auto* row = qobject_cast<QHBoxLayout*>(layout);
     if (!row)
@@ -40,8 +40,9 @@ inline QString rowText(QLayout* layout, const QWidget& parent)
 }
 
 // Runs a scenario of calls and clicks on a group and writes what a host sees: the row after an
-// init, the signals of each step and the state after it. Steps, separated by blanks: init, lf:<ids> (initForLF), echo, use:<edit|table|qtable|null>,
-// click:<id>, select:<id>, off:<id> and on:<id> (setEnabledById), read:<text>.
+// init, the signals of each step and the state after it. Steps, separated by blanks: init,
+// lf:<ids> (initForLF), echo, use:<edit|table|qtable|null>, click:<id>, select:<id>, off:<id> and
+// on:<id> (setEnabledById), read:<text>.
 QString transcript(const QString& steps)
 {
     using ButtonID = VKD_P_RadioGroup::ButtonID;

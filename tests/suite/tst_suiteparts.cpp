@@ -209,8 +209,8 @@ private slots:
             if (!installed)
                 QTest::ignoreMessage(
                     QtWarningMsg,
-                    qPrintable(path +
-                               QStringLiteral(": not a translation that can be loaded; the texts stay English")));
+                    qPrintable(path + QStringLiteral(
+                                          ": not a translation that can be loaded; the texts stay English")));
             vkd_lib_setvalue(kSettingLanguage, 0);
             VKD_QT_InitTranslator translator("mod");
             vkd_lib_setvalue(kSettingLanguage, 1);

@@ -16,8 +16,8 @@
 #include <VKD_QT_InfoText.h>
 #include <VKD_QT_RadioButtonGroup.h>
 #include <VKD_QT_TreeWidget.h>
-#include <vkd_h_fieldcheck.h>
 #include <previewscene.h>
+#include <vkd_h_fieldcheck.h>
 #include <vkd_h_numbertext.h>
 
 #include <QComboBox>
