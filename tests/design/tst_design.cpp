@@ -9,6 +9,7 @@
 #include <designstore.h>
 #include <projectentries.h>
 #include <rowtext.h>
+#include <vkd_dbo.h>
 #include <vkd_q.h>
 
 #include <QProcess>
@@ -446,8 +447,9 @@ private slots:
     {
         QString out = QStringLiteral("== groups\n");
         for (const Groups& groups :
-             {Groups{}, Groups{-1}, Groups{-1, 4}, Groups{1000000}, Groups{packed(' ', 'S', ' ', ' '), 2},
-              Groups{packed('A', 'B', 0, 'C')}, Groups{packed('W', 'A', 'L', 'L')}})
+             {Groups{}, Groups{-1}, Groups{-1, 4}, Groups{vkd::dbo::kFirstSecondaryGroup},
+              Groups{packed(' ', 'S', ' ', ' '), 2}, Groups{packed('A', 'B', 0, 'C')},
+              Groups{packed('W', 'A', 'L', 'L')}})
             out += rowText(row(getDefaultMerPara(false), groups), ColumnSelection) + QLatin1Char('\n');
         auto add = [&](const QString& title, const DesignParameterRow& r) {
             out += QStringLiteral("== %1\n").arg(title);
